@@ -1,0 +1,134 @@
+#pragma once
+
+/// \file
+/// Access to a SOAP reply, a WS-Discovery message or an error page by path.
+
+#include <vorn/util/export.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtXml/QDomElement>
+
+#include <memory>
+
+namespace vorn {
+
+class NodeBuilder;
+class XmlDocument;
+
+/// One element of a reply, with everything below it.
+///
+/// A default-constructed node is the missing one: not valid, without name, element and children. It is also what a
+/// query for a path that is not there returns.
+struct VORNSDK_UTIL_EXPORT XmlResponseNode
+{
+    /// True when the node stands for an element that was found.
+    bool valid = false;
+
+    /// Local name of the element: "Name" for `tt:Name`. Empty on a missing node.
+    QString name;
+
+    /// The element with its attributes, text, CDATA sections and descendants; null on a missing node.
+    ///
+    /// It has no parent and no siblings. Comments and processing instructions are left out. `isNull()`, `text()` and
+    /// `attribute()` go on working when the XmlResponse that the node came from is gone; all else that the element
+    /// offers may be used only while that XmlResponse lives.
+    QDomElement element;
+
+    /// One node for each child element, in document order, filled in the same way.
+    QList<XmlResponseNode> children;
+
+    XmlResponseNode();
+    XmlResponseNode(const XmlResponseNode &other);
+    XmlResponseNode(XmlResponseNode &&other) noexcept;
+    XmlResponseNode &operator=(const XmlResponseNode &other);
+    XmlResponseNode &operator=(XmlResponseNode &&other) noexcept;
+    ~XmlResponseNode();
+};
+
+/// A parsed reply that answers queries by path.
+///
+/// A path is a run of components, each with a leading slash: "/Envelope/Body/GetScopesResponse". A component is the
+/// local name of an element, compared case-sensitively; prefixes and namespaces play no part, and no character but the
+/// slash has a special meaning. Where several elements match a component, the first in document order is taken. A text
+/// that is not a path of this form is the path of no element.
+///
+/// Paths without a node start at the root path that the constructor was given, and from there at the document element.
+/// Paths with a node start at that node: their first component is the node's own name.
+///
+/// No operation fails, throws or reports. Bytes that are no well-formed document give an object on which every path is
+/// missing. These are such bytes:
+/// - what the parser refuses, such as tags that do not match;
+/// - more or fewer than one document element;
+/// - text beside the document element;
+/// - elements that are nested more than 256 levels deep.
+///
+/// Tolerated are ill-formed UTF-8 (each bad sequence reads as U+FFFD), NUL characters (read as U+FFFD, ignored at the
+/// end of the reply), white space before the XML declaration, a repeated attribute (the first counts) and references
+/// to unknown entities (they stay as written). Entities that a DTD declares are never expanded, and nothing outside the
+/// bytes is ever opened. A byte order mark decides the encoding, else the XML declaration; without either, or if the
+/// declaration cannot be right, the bytes are read as UTF-8.
+///
+/// Copies share the parsed document, which never changes. Each object belongs to one thread at a time; copies of one
+/// object may be used on different threads at once.
+class VORNSDK_UTIL_EXPORT XmlResponse
+{
+public:
+    /// A response on which every path is missing. Allocates nothing.
+    XmlResponse();
+
+    /// Parses \a bytes; the paths of all queries without a node start at \a root, which may be empty.
+    XmlResponse(const QByteArray &bytes, const QString &root);
+
+    XmlResponse(const XmlResponse &other);
+    XmlResponse(XmlResponse &&other) noexcept;
+    XmlResponse &operator=(const XmlResponse &other);
+    XmlResponse &operator=(XmlResponse &&other) noexcept;
+    ~XmlResponse();
+
+    /// The whole reply as text: the bytes decoded, whether they could be parsed or not.
+    QString xml() const;
+
+    /// The element at \a path, or a missing node.
+    XmlResponseNode get(const QString &path);
+
+    /// The element at \a path, which starts with the name of \a node, or a missing node.
+    XmlResponseNode get(const XmlResponseNode &node, const QString &path);
+
+    /// All elements that the last component of \a path matches below the element that the other components lead to, in
+    /// document order. Empty if there is none.
+    QList<XmlResponseNode> getAll(const QString &path);
+
+    /// The text of the element at \a path, exactly as `QDomElement::text()` of that element gives it: verbatim, with
+    /// the text of nested elements. Null if the element is missing.
+    QString getText(const QString &path);
+
+    /// The text of the element at \a path, which starts with the name of \a node. Null if the element is missing.
+    QString getText(const XmlResponseNode &node, const QString &path);
+
+    /// The text of the element at \a path as a decimal number. White space around it is allowed; 0 if the element is
+    /// missing or its text is no such number.
+    unsigned int getUInt(const QString &path);
+
+    /// As above; \a path starts with the name of \a node.
+    unsigned int getUInt(const XmlResponseNode &node, const QString &path);
+
+    /// True if the text of the element at \a path is "true" or "1", the two words of an XML Schema boolean for true.
+    /// White space around it is allowed.
+    bool getBool(const QString &path);
+
+    /// The value of \a attribute on the element at \a path, exactly as `QDomElement::attribute()` of that element gives
+    /// it: the attribute is named as it is written, with its prefix if it has one. Null if either is missing.
+    QString getAttribute(const QString &attribute, const QString &path);
+
+private:
+    NodeBuilder &nodeBuilder();
+
+    std::shared_ptr<const XmlDocument> m_document;
+    std::unique_ptr<NodeBuilder> m_nodeBuilder; // made by the first query that hands out a node
+};
+
+} // namespace vorn
+
+Q_DECLARE_TYPEINFO(vorn::XmlResponseNode, Q_RELOCATABLE_TYPE);

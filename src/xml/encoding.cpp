@@ -1,0 +1,105 @@
+#include "encoding.h"
+
+#include <QtCore/QByteArrayView>
+#include <QtCore/QStringDecoder>
+
+#include <initializer_list>
+#include <optional>
+
+namespace vorn {
+namespace {
+
+constexpr QByteArrayView declarationStart("<?xml");
+
+/// Recognises the encodings that show in the first bytes: by a byte order mark, or by the zero bytes of UTF-16 and
+/// UTF-32. A reply starts with markup or, from some devices, with white space.
+std::optional<QStringConverter::Encoding> detectedEncoding(QByteArrayView bytes)
+{
+    if (bytes.size() > 1 && bytes[0] == '<' && bytes[1] != '\0') // nearly every reply
+        return std::nullopt;
+    for (const char16_t first : {u'<', u'\n', u'\r', u' ', u'\t'}) {
+        if (const auto encoding = QStringConverter::encodingForData(bytes, first))
+            return encoding;
+    }
+    return std::nullopt;
+}
+
+/// The encoding's name in the XML declaration; empty if there is none.
+QByteArray declaredEncoding(QByteArrayView bytes)
+{
+    const QByteArrayView reply = bytes.trimmed();
+    if (!reply.startsWith(declarationStart))
+        return {};
+    QByteArrayView rest = reply.first(qMax(reply.indexOf("?>"), qsizetype(0)));
+
+    constexpr QByteArrayView keyword("encoding");
+    const qsizetype position = rest.indexOf(keyword);
+    if (position < 0)
+        return {};
+    rest = rest.sliced(position + keyword.size()).trimmed();
+    if (!rest.startsWith('='))
+        return {};
+    rest = rest.sliced(1).trimmed();
+    if (!rest.startsWith('"') && !rest.startsWith('\''))
+        return {};
+    const qsizetype end = rest.indexOf(rest.front(), 1);
+    return end < 0 ? QByteArray() : rest.sliced(1, end - 1).toByteArray();
+}
+
+/// Decodes by the name in the XML declaration, unless that is UTF-8 or of no use.
+std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
+{
+    const QByteArray name = declaredEncoding(bytes);
+    if (name.isEmpty())
+        return std::nullopt;
+    const auto encoding = QStringConverter::encodingForName(name.constData());
+    if (encoding == QStringConverter::Utf8)
+        return std::nullopt;
+    if (encoding == QStringConverter::System) // what a reply says must not depend on the client's locale
+        return std::nullopt;
+    QStringDecoder decoder(name.constData());
+    if (!decoder.isValid())
+        return std::nullopt;
+    QString text = decoder(bytes);
+    // Devices declare "utf-16" because their text was in memory that way, and then send UTF-8. A declaration that does
+    // not survive its own encoding is wrong.
+    if (!QStringView(text).trimmed().startsWith(QLatin1String(declarationStart)))
+        return std::nullopt;
+    return text;
+}
+
+std::optional<QString> decodedFromOtherThanUtf8(const QByteArray &bytes)
+{
+    const auto detected = detectedEncoding(bytes);
+    if (!detected)
+        return decodedAsDeclared(bytes);
+    if (detected == QStringConverter::Utf8)
+        return std::nullopt;
+    QStringDecoder decoder(*detected);
+    return decoder(bytes);
+}
+
+} // namespace
+
+DecodedReply decodeReply(const QByteArray &bytes)
+{
+    DecodedReply reply;
+    if (auto text = decodedFromOtherThanUtf8(bytes)) {
+        reply.text = *std::move(text);
+        reply.utf8 = reply.text.toUtf8();
+    } else {
+        reply.text = QString::fromUtf8(bytes);
+        reply.utf8 = bytes;
+    }
+
+    // The parser takes a NUL for the end of the reply. Behind the reply it is one: the terminator of a C string that
+    // the device sent along.
+    if (reply.utf8.contains('\0')) {
+        while (reply.utf8.endsWith('\0'))
+            reply.utf8.chop(1);
+        reply.utf8.replace('\0', "\xEF\xBF\xBD");
+    }
+    return reply;
+}
+
+} // namespace vorn

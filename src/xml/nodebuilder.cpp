@@ -1,0 +1,62 @@
+#include "nodebuilder.h"
+
+#include "xmlnames.h"
+#include "xmltext.h"
+
+#include <algorithm>
+
+namespace vorn {
+
+// QDom walks from an element up to its document whenever an attribute is set on it or a child appended. So an element
+// is completed before it is given a parent: then the walk ends at once.
+XmlResponseNode NodeBuilder::node(pugi::xml_node element)
+{
+    XmlResponseNode node;
+    const Name &elementName = name(element.name());
+    node.valid = true;
+    node.name = elementName.local;
+    node.element = m_document.createElement(elementName.qualified);
+    setAttributes(node.element, element);
+    appendContent(node, element);
+    return node;
+}
+
+const NodeBuilder::Name &NodeBuilder::name(const char *qualifiedName)
+{
+    const auto [entry, isNew] = m_names.try_emplace(qualifiedName);
+    if (isNew) {
+        const char *local = localName(qualifiedName);
+        entry->second.qualified = toQString(qualifiedName);
+        entry->second.local = local == qualifiedName ? entry->second.qualified : toQString(local);
+    }
+    return entry->second;
+}
+
+void NodeBuilder::setAttributes(QDomElement &element, pugi::xml_node source)
+{
+    // Backwards, so that of a repeated attribute the first is set last and stays.
+    for (pugi::xml_attribute attribute = source.last_attribute(); attribute; attribute = attribute.previous_attribute())
+        element.setAttribute(name(attribute.name()).qualified, toQString(attribute.value()));
+}
+
+void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
+{
+    const auto children = source.children();
+    node.children.reserve(std::count_if(children.begin(), children.end(),
+                                        [](pugi::xml_node child) { return child.type() == pugi::node_element; }));
+
+    if (isCharacterData(pugi::node_pcdata, source.value()))
+        node.element.appendChild(m_document.createTextNode(toQString(source.value())));
+    for (const pugi::xml_node child : children) {
+        if (child.type() == pugi::node_element) {
+            node.children.append(this->node(child));
+            node.element.appendChild(node.children.constLast().element);
+        } else if (child.type() == pugi::node_cdata) {
+            node.element.appendChild(m_document.createCDATASection(toQString(child.value())));
+        } else if (isCharacterData(child.type(), child.value())) {
+            node.element.appendChild(m_document.createTextNode(toQString(child.value())));
+        }
+    }
+}
+
+} // namespace vorn

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+#include <QtCore/QStringView>
+#include <pugixml.hpp>
+
+namespace vorn {
+
+/// The text of a reply and its tree, parsed once and never changed, so that copies of a response share it without a
+/// lock.
+class XmlDocument
+{
+public:
+    XmlDocument(const QByteArray &bytes, const QString &root);
+
+    const QString &text() const { return m_text; }
+
+    /// The element at \a path below the root path; null if it is missing.
+    pugi::xml_node find(QStringView path) const;
+
+private:
+    QString m_text;
+    pugi::xml_document m_tree;
+    pugi::xml_node m_root; // the element at the root path, or the tree itself where that path is empty
+};
+
+} // namespace vorn

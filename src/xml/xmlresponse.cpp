@@ -1,0 +1,144 @@
+#include "nodebuilder.h"
+#include "path.h"
+#include "xmldocument.h"
+#include "xmlnames.h"
+#include "xmltext.h"
+
+#include <vorn/util/xmlresponse.h>
+
+#include <algorithm>
+
+namespace vorn {
+namespace {
+
+/// The element at \a path below the root path; null if it is missing.
+pugi::xml_node find(const std::shared_ptr<const XmlDocument> &document, QStringView path)
+{
+    return document ? document->find(path) : pugi::xml_node();
+}
+
+/// The node at \a path, whose first component names \a node itself; null if it is missing.
+const XmlResponseNode *find(const XmlResponseNode &node, QStringView path)
+{
+    const XmlResponseNode *begin = &node;
+    const XmlResponseNode *end = begin + 1;
+    const XmlResponseNode *found = nullptr;
+    do {
+        const QStringView name = takeComponent(path);
+        const auto hasName = [name](const XmlResponseNode &candidate) { return candidate.name == name; };
+        found = name.isEmpty() ? end : std::find_if(begin, end, hasName);
+        if (found == end)
+            return nullptr;
+        begin = found->children.constData();
+        end = begin + found->children.size();
+    } while (!path.isEmpty());
+    return found;
+}
+
+} // namespace
+
+XmlResponseNode::XmlResponseNode() = default;
+XmlResponseNode::XmlResponseNode(const XmlResponseNode &other) = default;
+XmlResponseNode::XmlResponseNode(XmlResponseNode &&other) noexcept = default;
+XmlResponseNode &XmlResponseNode::operator=(const XmlResponseNode &other) = default;
+XmlResponseNode &XmlResponseNode::operator=(XmlResponseNode &&other) noexcept = default;
+XmlResponseNode::~XmlResponseNode() = default;
+
+XmlResponse::XmlResponse() = default;
+
+XmlResponse::XmlResponse(const QByteArray &bytes, const QString &root)
+{
+    if (!bytes.isEmpty())
+        m_document = std::make_shared<const XmlDocument>(bytes, root);
+}
+
+XmlResponse::XmlResponse(const XmlResponse &other)
+    : m_document(other.m_document)
+{
+    // The nodes of each object have a QDomDocument of their own: only the parsed document may be used on several
+    // threads at once.
+}
+
+XmlResponse::XmlResponse(XmlResponse &&other) noexcept = default;
+
+XmlResponse &XmlResponse::operator=(const XmlResponse &other)
+{
+    if (m_document != other.m_document)
+        *this = XmlResponse(other);
+    return *this;
+}
+
+XmlResponse &XmlResponse::operator=(XmlResponse &&other) noexcept = default;
+XmlResponse::~XmlResponse() = default;
+
+QString XmlResponse::xml() const
+{
+    return m_document ? m_document->text() : QString();
+}
+
+XmlResponseNode XmlResponse::get(const QString &path)
+{
+    const pugi::xml_node element = find(m_document, path);
+    return element ? nodeBuilder().node(element) : XmlResponseNode();
+}
+
+XmlResponseNode XmlResponse::get(const XmlResponseNode &node, const QString &path)
+{
+    const XmlResponseNode *found = find(node, path);
+    return found ? *found : XmlResponseNode();
+}
+
+QList<XmlResponseNode> XmlResponse::getAll(const QString &path)
+{
+    QList<XmlResponseNode> nodes;
+    pugi::xml_node element = find(m_document, path);
+    while (element) {
+        nodes.append(nodeBuilder().node(element));
+        element = firstNamed(element.next_sibling(), nodes.constFirst().name);
+    }
+    return nodes;
+}
+
+QString XmlResponse::getText(const QString &path)
+{
+    return textOf(find(m_document, path));
+}
+
+QString XmlResponse::getText(const XmlResponseNode &node, const QString &path)
+{
+    const XmlResponseNode *found = find(node, path);
+    return found ? found->element.text() : QString();
+}
+
+unsigned int XmlResponse::getUInt(const QString &path)
+{
+    return uintOf(find(m_document, path));
+}
+
+unsigned int XmlResponse::getUInt(const XmlResponseNode &node, const QString &path)
+{
+    return getText(node, path).toUInt();
+}
+
+bool XmlResponse::getBool(const QString &path)
+{
+    return boolOf(find(m_document, path));
+}
+
+QString XmlResponse::getAttribute(const QString &attribute, const QString &path)
+{
+    for (const pugi::xml_attribute candidate : find(m_document, path).attributes()) {
+        if (equals(candidate.name(), attribute))
+            return toQString(candidate.value());
+    }
+    return {};
+}
+
+NodeBuilder &XmlResponse::nodeBuilder()
+{
+    if (!m_nodeBuilder)
+        m_nodeBuilder = std::make_unique<NodeBuilder>();
+    return *m_nodeBuilder;
+}
+
+} // namespace vorn

@@ -1,0 +1,102 @@
+#include "xmltext.h"
+
+#include <QtCore/QByteArrayView>
+#include <QtCore/QStringDecoder>
+#include <QtCore/QVarLengthArray>
+
+namespace vorn {
+namespace {
+
+constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
+
+/// Keeps a U+FEFF at the start, which is a byte order mark before a document but a character in a value.
+QStringDecoder valueDecoder()
+{
+    return QStringDecoder(QStringDecoder::Utf8,
+                          QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+}
+
+bool isBlank(const char *utf8)
+{
+    while (*utf8 == ' ' || *utf8 == '\n' || *utf8 == '\t' || *utf8 == '\r')
+        ++utf8;
+    return *utf8 == '\0';
+}
+
+/// Calls \a visit with each piece of character data in \a element and below, in document order. The depth of a
+/// document is bounded, and so is the recursion.
+template <typename Visitor>
+void visitCharacterData(pugi::xml_node element, const Visitor &visit)
+{
+    if (isCharacterData(pugi::node_pcdata, element.value()))
+        visit(element.value());
+    for (pugi::xml_node child = element.first_child(); child; child = child.next_sibling()) {
+        if (child.type() == pugi::node_element)
+            visitCharacterData(child, visit);
+        else if (isCharacterData(child.type(), child.value()))
+            visit(child.value());
+    }
+}
+
+/// The text of an element for as long as it takes to look at it; on the stack, unless it is uncommonly long.
+class TransientText
+{
+public:
+    explicit TransientText(pugi::xml_node element)
+    {
+        visitCharacterData(element, [this](const char *utf8) { append(utf8); });
+    }
+
+    QStringView view() const { return QStringView(m_characters.data(), m_characters.size()); }
+
+private:
+    void append(QByteArrayView utf8)
+    {
+        QStringDecoder decoder = valueDecoder();
+        const qsizetype size = m_characters.size();
+        m_characters.resize(size + decoder.requiredSpace(utf8.size()));
+        const QChar *end = decoder.appendToBuffer(m_characters.data() + size, utf8);
+        m_characters.resize(end - m_characters.data());
+    }
+
+    QVarLengthArray<QChar, 64> m_characters;
+};
+
+} // namespace
+
+QString toQString(const char *utf8)
+{
+    const QByteArrayView bytes(utf8);
+    const bool mayStartWithMark = *utf8 == byteOrderMark.front();
+    if (mayStartWithMark && bytes.startsWith(byteOrderMark))
+        return valueDecoder()(bytes);
+    return QString::fromUtf8(bytes);
+}
+
+bool isCharacterData(pugi::xml_node_type type, const char *utf8)
+{
+    return type == pugi::node_cdata || (type == pugi::node_pcdata && !isBlank(utf8));
+}
+
+QString textOf(pugi::xml_node element)
+{
+    if (!element)
+        return {};
+    QString text;
+    visitCharacterData(element, [&text](const char *utf8) { text += toQString(utf8); });
+    return text.isNull() ? QString(QLatin1String("")) : text;
+}
+
+unsigned int uintOf(pugi::xml_node element)
+{
+    return TransientText(element).view().toUInt();
+}
+
+bool boolOf(pugi::xml_node element)
+{
+    const TransientText text(element);
+    const QStringView word = text.view().trimmed();
+    return word == QLatin1String("true") || word == QLatin1String("1");
+}
+
+} // namespace vorn

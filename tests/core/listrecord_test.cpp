@@ -1,0 +1,87 @@
+#include "core/listrecord.h"
+#include "support/printing.h"
+
+#include <vorn/onvif/bases.h>
+
+#include <gtest/gtest.h>
+
+using vorn::OnvifDataStructure;
+using vorn::OnvifResponseStructure;
+using vorn::XmlResponseNode;
+
+namespace {
+
+struct Element : OnvifDataStructure
+{
+    QString text;
+    bool copied = false;
+
+    Element() = default;
+
+    explicit Element(const XmlResponseNode &node)
+        : OnvifDataStructure(node.element.isNull())
+        , text(node.element.text())
+    {
+    }
+
+    Element(const Element &other)
+        : OnvifDataStructure(other)
+        , text(other.text)
+        , copied(true)
+    {
+    }
+
+    Element &operator=(const Element &) = default;
+};
+
+struct ElementVector : QList<Element>, OnvifResponseStructure
+{
+    ElementVector(const QByteArray &bytes, const QString &root)
+        : OnvifResponseStructure(bytes, root)
+    {
+        vorn::appendElements(*this, QStringLiteral("/Item"));
+    }
+};
+
+TEST(AppendElements, takesEachMatchInDocumentOrder)
+{
+    const ElementVector list("<r><Item>1</Item><Other/><x:Item>2</x:Item></r>", "/r");
+    ASSERT_EQ(list.size(), 2);
+    EXPECT_EQ(list[0].text, "1");
+    EXPECT_EQ(list[1].text, "2");
+    EXPECT_FALSE(list[0].isNull());
+    EXPECT_EQ(list.xml, "<r><Item>1</Item><Other/><x:Item>2</x:Item></r>");
+}
+
+TEST(AppendElements, keepsElementsWithoutContent)
+{
+    const ElementVector list("<r><Item/></r>", "/r");
+    ASSERT_EQ(list.size(), 1);
+    EXPECT_TRUE(list[0].text.isEmpty());
+    EXPECT_FALSE(list[0].isNull());
+}
+
+TEST(AppendElements, givesAnEmptyListForAnotherReply)
+{
+    EXPECT_TRUE(ElementVector("<r><Item/></r>", "/other").isEmpty());
+    EXPECT_TRUE(ElementVector("no xml", "/r").isEmpty());
+    EXPECT_TRUE(ElementVector(QByteArray(), QString()).isEmpty());
+}
+
+TEST(AppendElements, addsBehindWhatTheListHolds)
+{
+    ElementVector list("<r><Item>1</Item><Options>2</Options></r>", "/r");
+    vorn::appendElements(list, QStringLiteral("/Options"));
+    ASSERT_EQ(list.size(), 2);
+    EXPECT_EQ(list[0].text, "1");
+    EXPECT_EQ(list[1].text, "2");
+}
+
+TEST(AppendElements, putsElementsThroughTheirOwnCopyOperation)
+{
+    const ElementVector list("<r><Item/></r>", "/r");
+    ASSERT_EQ(list.size(), 1);
+    EXPECT_TRUE(list[0].copied);
+}
+
+} // namespace

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+
+namespace test {
+
+/// Counts what this thread takes from the heap, from whatever library, while the object lives.
+class AllocationCounter
+{
+public:
+    AllocationCounter();
+    AllocationCounter(const AllocationCounter &) = delete;
+    AllocationCounter &operator=(const AllocationCounter &) = delete;
+    ~AllocationCounter();
+
+    std::size_t count() const;
+};
+
+} // namespace test

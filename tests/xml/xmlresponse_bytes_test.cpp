@@ -1,0 +1,202 @@
+// Encodings, and bytes that are not what they should be.
+
+#include "support/printing.h"
+
+#include <vorn/util/xmlresponse.h>
+
+#include <QtCore/QStringEncoder>
+#include <gtest/gtest.h>
+
+using vorn::XmlResponse;
+
+namespace {
+
+const QString name = QStringLiteral(u"Kamera \u00FC\u4E2D\U0001F600");
+
+QString documentWithName(const QString &declaration)
+{
+    return declaration + "<a k='" + name + "'>" + name + "</a>";
+}
+
+QByteArray encoded(const QString &text, QStringConverter::Encoding encoding, bool byteOrderMark)
+{
+    QStringEncoder encoder(encoding,
+                           byteOrderMark ? QStringConverter::Flag::WriteBom : QStringConverter::Flag::Default);
+    return encoder(text);
+}
+
+void expectName(const QByteArray &reply, const char *what)
+{
+    XmlResponse response(reply, "");
+    EXPECT_EQ(response.getText("/a"), name) << what;
+    EXPECT_EQ(response.get("/a").element.text(), name) << what;
+    EXPECT_EQ(response.getAttribute("k", "/a"), name) << what;
+    EXPECT_TRUE(response.xml().endsWith("</a>")) << what;
+    EXPECT_TRUE(response.xml().contains(name)) << what;
+}
+
+TEST(XmlResponseEncoding, unicodeIsRecognisedWithAndWithoutByteOrderMark)
+{
+    const std::pair<QStringConverter::Encoding, const char *> encodings[] = {
+        {QStringConverter::Utf8, "UTF-8"},       {QStringConverter::Utf16LE, "UTF-16LE"},
+        {QStringConverter::Utf16BE, "UTF-16BE"}, {QStringConverter::Utf32LE, "UTF-32LE"},
+        {QStringConverter::Utf32BE, "UTF-32BE"},
+    };
+    for (const auto &[encoding, what] : encodings) {
+        for (const bool mark : {true, false}) {
+            expectName(encoded(documentWithName({}), encoding, mark), what);
+            expectName(encoded(documentWithName("<?xml version='1.0'?>"), encoding, mark), what);
+            expectName(encoded(documentWithName("\n<?xml version='1.0'?>\n"), encoding, mark), what);
+        }
+    }
+}
+
+TEST(XmlResponseEncoding, byteOrderMarkWinsOverTheDeclaration)
+{
+    const QString document = documentWithName("<?xml version='1.0' encoding='ISO-8859-1'?>");
+    expectName(encoded(document, QStringConverter::Utf8, true), "UTF-8");
+    expectName(encoded(document, QStringConverter::Utf16LE, true), "UTF-16LE");
+}
+
+TEST(XmlResponseEncoding, byteOrderMarkIsNoPartOfTheText)
+{
+    XmlResponse response("\xEF\xBB\xBF<a>1</a>", "");
+    EXPECT_EQ(response.xml(), "<a>1</a>");
+    EXPECT_EQ(response.getText("/a"), "1");
+}
+
+TEST(XmlResponseEncoding, declaredLatin1IsHonoured)
+{
+    XmlResponse response("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a k='\xE9'>caf\xE9</a>", "");
+    EXPECT_EQ(response.getText("/a"), QStringLiteral(u"caf\u00E9"));
+    EXPECT_EQ(response.getAttribute("k", "/a"), QStringLiteral(u"\u00E9"));
+    EXPECT_TRUE(response.xml().endsWith(QStringLiteral(u"caf\u00E9</a>")));
+}
+
+TEST(XmlResponseEncoding, declaredGb2312IsHonoured)
+{
+    if (!QStringDecoder("GB2312").isValid())
+        GTEST_SKIP() << "This Qt was built without ICU and knows no GB2312.";
+    XmlResponse response("<?xml version='1.0' encoding='GB2312'?><a>\xC9\xE3\xCF\xF1\xBB\xFA</a>", "");
+    EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u6444\u50CF\u673A"));
+}
+
+TEST(XmlResponseEncoding, declarationMayBeWrittenInManyWays)
+{
+    for (const char *declaration : {
+             "<?xml version='1.0' encoding='iso-8859-1'?>",
+             "<?xml encoding = \"Latin1\" ?>",
+             "\r\n<?xml version='1.0'\n\tencoding\n=\n'ISO-8859-1' standalone='yes'?>\r\n",
+         }) {
+        XmlResponse response(declaration + QByteArray("<a>\xE9</a>"), "");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9")) << declaration;
+    }
+}
+
+TEST(XmlResponseEncoding, uselessDeclarationMeansUtf8)
+{
+    for (const char *declaration : {
+             "<?xml version='1.0'?>",
+             "<?xml version='1.0' encoding='UTF-8'?>",
+             "<?xml version='1.0' encoding='utf8'?>",
+             "<?xml version='1.0' encoding='no-such-encoding'?>",
+             "<?xml version='1.0' encoding=''?>",
+             "<?xml version='1.0' encoding?>",
+             "<?xml version='1.0' encoding=?>",
+             "<?xml version='1.0' encoding='ISO-8859-1?>",
+             "<?xml version='1.0' encoding=ISO-8859-1?>",
+             "<?xml version='1.0' encoding='../../../etc/passwd'?>",
+             "<?xml version='1.0' encoding='locale'?>",
+             "<?xml version='1.0' encoding='system'?>",
+             // The text was UTF-16 when the device wrote the declaration, but not when it sent it.
+             "<?xml version='1.0' encoding='utf-16'?>",
+             "<?xml version='1.0' encoding='UTF-16LE'?>",
+             "<?xml version='1.0' encoding='UTF-32'?>",
+             "<!-- <?xml encoding='ISO-8859-1'?> -->",
+             "<?pi encoding='ISO-8859-1'?>",
+         }) {
+        XmlResponse response(declaration + QByteArray("<a>\xC3\xA9</a>"), "");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9")) << declaration;
+    }
+}
+
+TEST(XmlResponseEncoding, encodingOfAnAttributeIsNoDeclaration)
+{
+    XmlResponse response("<a encoding='ISO-8859-1'>\xC3\xA9</a>", "");
+    EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9"));
+}
+
+TEST(XmlResponseBytes, illFormedUtf8BecomesAReplacementCharacterWhereItStands)
+{
+    XmlResponse response(
+        "<r k='\xFFv'><bad>a\xFFz</bad><cut>\xE4\xB8</cut><good>ok</good><wide>\xED\xA0\x80</wide></r>", "/r");
+    EXPECT_EQ(response.getText("/bad"), QStringLiteral(u"a\uFFFDz"));
+    EXPECT_EQ(response.get("/bad").element.text(), QStringLiteral(u"a\uFFFDz"));
+    EXPECT_EQ(response.getAttribute("k", ""), QStringLiteral(u"\uFFFDv"));
+    EXPECT_EQ(response.get("").element.attribute("k"), QStringLiteral(u"\uFFFDv"));
+    EXPECT_TRUE(response.getText("/cut").startsWith(QChar(0xFFFD)));
+    EXPECT_EQ(response.getText("/cut"), response.get("/cut").element.text());
+    EXPECT_TRUE(response.getText("/wide").startsWith(QChar(0xFFFD)));
+    EXPECT_EQ(response.getText("/good"), "ok");
+    EXPECT_TRUE(response.xml().contains(QStringLiteral(u"a\uFFFDz")));
+}
+
+TEST(XmlResponseBytes, illFormedNameIsTheSameInPathAndNode)
+{
+    XmlResponse response("<r><a\xFF>1</a\xFF></r>", "/r");
+    EXPECT_EQ(response.get("").children[0].name, QStringLiteral(u"a\uFFFD"));
+    EXPECT_EQ(response.getText(QStringLiteral(u"/a\uFFFD")), "1");
+}
+
+TEST(XmlResponseBytes, nulBecomesAReplacementCharacterWhereItStands)
+{
+    XmlResponse response(QByteArray("<r><a>x\0y</a><b>ok</b></r>", 26), "/r");
+    EXPECT_EQ(response.getText("/a"), QStringLiteral(u"x\uFFFDy"));
+    EXPECT_EQ(response.get("/a").element.text(), QStringLiteral(u"x\uFFFDy"));
+    EXPECT_EQ(response.getText("/b"), "ok");
+}
+
+TEST(XmlResponseBytes, nulsBehindTheReplyAreIgnored)
+{
+    // The terminator of a C string, or the rest of a buffer of fixed size.
+    XmlResponse response(QByteArray("<a>1</a>") + QByteArray(100, '\0'), "");
+    EXPECT_EQ(response.getText("/a"), "1");
+    XmlResponse withLineEnd(QByteArray("<a>1</a>\r\n\0", 11), "");
+    EXPECT_EQ(withLineEnd.getText("/a"), "1");
+}
+
+TEST(XmlResponseBytes, nulsBesideTheDocumentElementAreText)
+{
+    EXPECT_FALSE(XmlResponse(QByteArray("\0<a>1</a>", 9), "").get("/a").valid);
+    EXPECT_FALSE(XmlResponse(QByteArray("<a>1</a>\0<b/>", 13), "").get("/a").valid);
+    EXPECT_FALSE(XmlResponse(QByteArray("<a>1</a>\0\n", 10), "").get("/a").valid);
+}
+
+TEST(XmlResponseBytes, referenceToNoCharacterEndsNothing)
+{
+    XmlResponse response("<r><a>x&#0;y</a><b>&#xD800;</b><c>&#x110000;</c><d>&#99999999999;</d><e>ok</e></r>", "/r");
+    for (const char *path : {"/a", "/b", "/c", "/d", "/e"})
+        EXPECT_EQ(response.getText(path), response.get(path).element.text()) << path;
+    EXPECT_EQ(response.getText("/e"), "ok");
+}
+
+TEST(XmlResponseBytes, nullAndEmptyHaveNoText)
+{
+    EXPECT_TRUE(XmlResponse(QByteArray(), "").xml().isEmpty());
+    EXPECT_TRUE(XmlResponse("", "/a").xml().isEmpty());
+}
+
+TEST(XmlResponseBytes, htmlIsReadWhenWellFormed)
+{
+    XmlResponse page("<!DOCTYPE html>\n<html lang='en'><head><title>401 Unauthorized</title></head>"
+                     "<body>a&nbsp;b<br/></body></html>",
+                     "");
+    EXPECT_EQ(page.getText("/html/head/title"), "401 Unauthorized");
+    EXPECT_EQ(page.getText("/html/body"), "a&nbsp;b");
+
+    XmlResponse sloppy("<html><head><title>401</title><meta></head><body><br></body></html>", "");
+    EXPECT_FALSE(sloppy.get("/html/head/title").valid);
+    EXPECT_TRUE(sloppy.xml().startsWith("<html>"));
+}
+
+} // namespace
