@@ -1,0 +1,164 @@
+// The program onvif-inspect: its options, exit codes and what it prints where.
+
+#include "samples/samples.h"
+#include "support/printing.h"
+
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString deviceInformation = QStringLiteral(SAMPLES_FOLDER "/short-prefixes/GetDeviceInformation.xml");
+const QString hostname = QStringLiteral(SAMPLES_FOLDER "/short-prefixes/GetHostname.xml");
+
+struct Result
+{
+    int exitCode = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+Result inspect(const QStringList &arguments, const QByteArray &input = {})
+{
+    QProcess process;
+    process.start(QStringLiteral(INSPECT_PROGRAM), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+QByteArray inBody(const QByteArray &content)
+{
+    return "<Envelope><Body>" + content + "</Body></Envelope>";
+}
+
+TEST(Inspect, readsAFile)
+{
+    const Result result = inspect({deviceInformation});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, QByteArray("GetDeviceInformationResponse\n"
+                                        "  manufacturer: \"Example Optics\"\n"
+                                        "  model: \"Bullet 4K\"\n"
+                                        "  firmwareVersion: \"V2.1.0 build 250314\"\n"
+                                        "  serialNumber: \"BULLET-4K-20250314-000271\"\n"
+                                        "  hardwareId: \"88\"\n"));
+    EXPECT_EQ(result.errors, QByteArray());
+}
+
+TEST(Inspect, readsStandardInput)
+{
+    const Result result =
+        inspect({"-"}, inBody("<GetDeviceInformationResponse><Model>M</Model></GetDeviceInformationResponse>"));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(result.output.contains("model: \"M\"")) << result.output.toStdString();
+}
+
+TEST(Inspect, namesEachOfSeveralFiles)
+{
+    const Result result = inspect({deviceInformation, hostname});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_TRUE(result.output.startsWith(deviceInformation.toUtf8() + ": GetDeviceInformationResponse\n"));
+    EXPECT_TRUE(result.output.contains(hostname.toUtf8() + ": GetHostnameResponse\n"));
+}
+
+TEST(Inspect, saysWhichOperationItHasNoRecordFor)
+{
+    const Result result = inspect({hostname});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, QByteArray("GetHostnameResponse\n  The library has no record for this reply.\n"));
+}
+
+TEST(Inspect, recognisesWhatIsNoReplyOfAnOperation)
+{
+    const std::pair<QByteArray, QByteArray> rows[] = {
+        {inBody("<Fault><Code/></Fault>"), "SOAP fault\n"},
+        {"<Fault><Reason><Text>Empty reply from Camera</Text></Reason></Fault>", "bare fault\n"},
+        {"<html><head><title>404</title></head></html>", "HTML page\n"},
+        {"<!DOCTYPE HTML><HTML><BR></HTML>", "HTML page\n"},
+        {inBody(""), "SOAP envelope\n"},
+        {"<Envelope/>", "SOAP envelope\n"},
+        {"", "nothing\n"},
+        {" \n", "nothing\n"},
+        {"<other/>", "something else\n"},
+        {"plain text", "something else\n"},
+    };
+    for (const auto &[reply, kind] : rows) {
+        const Result result = inspect({"-"}, reply);
+        EXPECT_EQ(result.exitCode, 1) << reply.toStdString();
+        EXPECT_TRUE(result.output.startsWith(kind)) << reply.toStdString() << " -> " << result.output.toStdString();
+    }
+}
+
+TEST(Inspect, printsJsonWithTheNamesOfTheFields)
+{
+    const Result result = inspect({"--json", deviceInformation, hostname});
+    EXPECT_EQ(result.exitCode, 1);
+    const QList<QByteArray> lines = result.output.split('\n');
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_EQ(lines[2], QByteArray());
+
+    const QJsonObject first = QJsonDocument::fromJson(lines[0]).object();
+    EXPECT_EQ(first.value("file").toString(), deviceInformation);
+    EXPECT_EQ(first.value("reply").toString(), "GetDeviceInformationResponse");
+    const QJsonObject expected{{"manufacturer", "Example Optics"},
+                               {"model", "Bullet 4K"},
+                               {"firmwareVersion", "V2.1.0 build 250314"},
+                               {"serialNumber", "BULLET-4K-20250314-000271"},
+                               {"hardwareId", "88"}};
+    EXPECT_EQ(first.value("record").toObject(), expected);
+
+    const QJsonObject second = QJsonDocument::fromJson(lines[1]).object();
+    EXPECT_EQ(second.value("reply").toString(), "GetHostnameResponse");
+    EXPECT_TRUE(second.value("record").isNull());
+    EXPECT_EQ(second.value("remark").toString(), "The library has no record for this reply.");
+}
+
+TEST(Inspect, printsNothingThatCouldDisturbATerminal)
+{
+    const Result result = inspect({"-"}, inBody("<GetDeviceInformationResponse><Model>a&#27;[31m&#10;\"\\&#9;&#x202E;&#"
+                                                "x9b;</Model></GetDeviceInformationResponse>"));
+    EXPECT_TRUE(result.output.contains("model: \"a\\u001b[31m\\n\\\"\\\\\\t\\u202e\\u009b\"\n"))
+        << result.output.toStdString();
+}
+
+TEST(Inspect, usesNoColoursAwayFromATerminal)
+{
+    EXPECT_FALSE(inspect({deviceInformation}).output.contains('\033'));
+}
+
+TEST(Inspect, complainsAboutWrongArguments)
+{
+    for (const QStringList &arguments :
+         {QStringList(), QStringList("--no-such-option"), QStringList("/no/such/file"), QStringList(SAMPLES_FOLDER)}) {
+        const Result result = inspect(arguments);
+        EXPECT_EQ(result.exitCode, 2) << arguments.join(' ').toStdString();
+        EXPECT_EQ(result.output, QByteArray());
+        EXPECT_TRUE(result.errors.startsWith("onvif-inspect: ")) << result.errors.toStdString();
+    }
+}
+
+TEST(Inspect, readsTheOtherFilesWhenOneCannotBeRead)
+{
+    const Result result = inspect({"/no/such/file", deviceInformation});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_TRUE(result.output.contains("Bullet 4K"));
+    EXPECT_TRUE(result.errors.contains("/no/such/file"));
+}
+
+TEST(Inspect, hasHelpAndVersion)
+{
+    const Result help = inspect({"--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    EXPECT_TRUE(help.output.contains("--json"));
+    EXPECT_TRUE(help.output.contains("Exit codes"));
+    const Result version = inspect({"--version"});
+    EXPECT_EQ(version.exitCode, 0);
+    EXPECT_EQ(version.output, QByteArray("onvif-inspect " PROJECT_VERSION_TEXT "\n"));
+}
+
+} // namespace

@@ -1,0 +1,135 @@
+// onvif-inspect: shows what the library makes of a reply.
+
+#include "inspect/outline.h"
+#include "inspect/reply.h"
+
+#include <vorn/onvif/version.h>
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
+#include <algorithm>
+#include <cstdio>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
+namespace {
+
+enum ExitCode : int {
+    Read = 0,        ///< A record was read.
+    NothingRead = 1, ///< The reply is a fault or holds nothing that the library reads.
+    CannotRun = 2,   ///< The command line is wrong or a file cannot be read.
+};
+
+void print(std::FILE *stream, const QString &text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    // Whether all went out is asked once, at the end.
+    (void)std::fwrite(utf8.constData(), 1, static_cast<std::size_t>(utf8.size()), stream);
+}
+
+void complain(const QString &text)
+{
+    print(stderr, QLatin1String("onvif-inspect: ") + text + QLatin1Char('\n'));
+}
+
+inspect::Palette paletteForOutput()
+{
+#ifdef Q_OS_UNIX
+    if (isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR"))
+        return {QStringLiteral("\033[1m"), QStringLiteral("\033[36m"), QStringLiteral("\033[0m")};
+#endif
+    return {};
+}
+
+bool open(QFile &file)
+{
+    if (file.fileName() == QLatin1String("-"))
+        return file.open(stdin, QIODevice::ReadOnly);
+    return file.open(QIODevice::ReadOnly);
+}
+
+QString asJson(const QString &fileName, const inspect::Reply &reply)
+{
+    QJsonObject json{{QStringLiteral("file"), fileName},
+                     {QStringLiteral("reply"), reply.kind},
+                     {QStringLiteral("record"), reply.record ? reply.record->toJson() : QJsonValue()}};
+    if (!reply.remark.isEmpty())
+        json.insert(QStringLiteral("remark"), reply.remark);
+    return QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact)) + QLatin1Char('\n');
+}
+
+QString asOutline(const QString &heading, const inspect::Reply &reply, const inspect::Palette &palette)
+{
+    const QString content = reply.record ? reply.record->toLines(palette, 1) : QLatin1String("\n  ") + reply.remark;
+    return heading + palette.heading + inspect::printable(reply.kind) + palette.end + content + QLatin1Char('\n');
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("onvif-inspect"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VORNSDK_ONVIF_VERSION_STRING));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Shows what is in replies of ONVIF devices.\n\n"
+                       "Exit codes: 0 all replies were read; 1 one is a fault or holds nothing that can be read;\n"
+                       "2 the command line is wrong or a file cannot be read."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
+                                     QStringLiteral("Shows the version."));
+    const QCommandLineOption json(QStringLiteral("json"),
+                                  QStringLiteral("Prints one line of JSON for each reply, for scripts."));
+    parser.addOptions({help, version, json});
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 QStringLiteral("A file with the bytes of a reply; - for standard input."),
+                                 QStringLiteral("FILE..."));
+
+    if (!parser.parse(QCoreApplication::arguments())) {
+        complain(parser.errorText() + QLatin1String(" Try --help."));
+        return CannotRun;
+    }
+    if (parser.isSet(help)) {
+        print(stdout, parser.helpText());
+        return Read;
+    }
+    if (parser.isSet(version)) {
+        print(stdout, QStringLiteral("onvif-inspect " VORNSDK_ONVIF_VERSION_STRING "\n"));
+        return Read;
+    }
+    const QStringList fileNames = parser.positionalArguments();
+    if (fileNames.isEmpty()) {
+        complain(
+            QStringLiteral("no file given. Name a file that holds the reply of a device, or - for standard input."));
+        return CannotRun;
+    }
+
+    const inspect::Palette palette = paletteForOutput();
+    int exitCode = Read;
+    for (const QString &fileName : fileNames) {
+        QFile file(fileName);
+        if (!open(file)) {
+            complain(QStringLiteral("cannot read \"%1\": %2. Check the name and the permissions.")
+                         .arg(fileName, file.errorString()));
+            exitCode = CannotRun;
+            continue;
+        }
+        const inspect::Reply reply = inspect::read(file.readAll());
+        const QString heading = fileNames.size() > 1 ? fileName + QLatin1String(": ") : QString();
+        print(stdout, parser.isSet(json) ? asJson(fileName, reply) : asOutline(heading, reply, palette));
+        exitCode = std::max<int>(exitCode, reply.record ? Read : NothingRead);
+    }
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        complain(QStringLiteral("cannot write the output. Check that there is room for it."));
+        exitCode = CannotRun;
+    }
+    return exitCode;
+}

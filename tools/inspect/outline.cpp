@@ -1,0 +1,145 @@
+#include "outline.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+
+namespace inspect {
+namespace {
+
+template <typename... Functions>
+struct Overloaded : Functions...
+{
+    using Functions::operator()...;
+};
+
+template <typename... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;
+
+QString lineStart(int depth)
+{
+    return QLatin1Char('\n') + QString(qsizetype(2) * depth, QLatin1Char(' '));
+}
+
+} // namespace
+
+Outline::Outline(bool value)
+    : m_value(value)
+{
+}
+
+Outline::Outline(int value)
+    : m_value(value)
+{
+}
+
+Outline::Outline(unsigned int value)
+    : m_value(value)
+{
+}
+
+Outline::Outline(double value)
+    : m_value(value)
+{
+}
+
+Outline::Outline(const QString &value)
+    : m_value(value)
+{
+}
+
+Outline::Outline(Fields fields)
+    : m_value(std::move(fields))
+{
+}
+
+Outline::Outline(List list)
+    : m_value(std::move(list))
+{
+}
+
+QString Outline::toLines(const Palette &palette, int depth) const
+{
+    const auto fieldLines = [&](const Fields &fields) {
+        QString lines;
+        for (const auto &[name, value] : fields) {
+            lines += lineStart(depth) + palette.name + QLatin1String(name) + palette.end + QLatin1Char(':')
+                     + value.toLines(palette, depth + 1);
+        }
+        return lines;
+    };
+    const auto listLines = [&](const List &list) {
+        if (list.empty())
+            return QStringLiteral(" none");
+        QString lines;
+        for (const Outline &entry : list)
+            lines += lineStart(depth) + QLatin1Char('-') + entry.toLines(palette, depth + 1);
+        return lines;
+    };
+    return std::visit(
+        Overloaded{
+            [](std::monostate) { return QStringLiteral(" null"); },
+            [](bool value) { return value ? QStringLiteral(" true") : QStringLiteral(" false"); },
+            [](int value) { return QLatin1Char(' ') + QString::number(value); },
+            [](unsigned int value) { return QLatin1Char(' ') + QString::number(value); },
+            [](double value) { return QLatin1Char(' ') + QString::number(value, 'g', 17); },
+            [](const QString &value) -> QString { return QLatin1String(" \"") + printable(value) + QLatin1Char('"'); },
+            fieldLines,
+            listLines,
+        },
+        m_value);
+}
+
+QJsonValue Outline::toJson() const
+{
+    const auto object = [](const Fields &fields) -> QJsonValue {
+        QJsonObject json;
+        for (const auto &[name, value] : fields)
+            json.insert(QLatin1String(name), value.toJson());
+        return json;
+    };
+    const auto array = [](const List &list) -> QJsonValue {
+        QJsonArray json;
+        for (const Outline &entry : list)
+            json.append(entry.toJson());
+        return json;
+    };
+    return std::visit(Overloaded{
+                          [](std::monostate) { return QJsonValue(); },
+                          [](unsigned int value) { return QJsonValue(static_cast<qint64>(value)); },
+                          object,
+                          array,
+                          [](const auto &value) { return QJsonValue(value); },
+                      },
+                      m_value);
+}
+
+QString printable(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const QChar character : text) {
+        switch (character.unicode()) {
+        case u'\n':
+            result += QLatin1String("\\n");
+            break;
+        case u'\r':
+            result += QLatin1String("\\r");
+            break;
+        case u'\t':
+            result += QLatin1String("\\t");
+            break;
+        case u'"':
+        case u'\\':
+            result += QLatin1Char('\\') + character;
+            break;
+        default:
+            if (character.category() == QChar::Other_Control || character.category() == QChar::Other_Format)
+                result += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
+            else
+                result += character;
+        }
+    }
+    return result;
+}
+
+} // namespace inspect

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QtCore/QJsonValue>
+#include <QtCore/QString>
+
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace inspect {
+
+/// How an outline is coloured: what is written before and after. Plain by default.
+struct Palette
+{
+    QString heading;
+    QString name;
+    QString end;
+};
+
+/// A value of a record as it is shown: null, a boolean, a number, a text, named fields or a list.
+class Outline
+{
+public:
+    using Field = std::pair<const char *, Outline>;
+    using Fields = std::vector<Field>;
+    using List = std::vector<Outline>;
+
+    Outline() = default; ///< null
+    Outline(bool value);
+    Outline(int value);
+    Outline(unsigned int value);
+    Outline(double value);
+    Outline(const QString &value);
+    Outline(Fields fields);
+    Outline(List list);
+    Outline(const char *) = delete; // would be taken for a boolean
+
+    /// Lines for a person to read, indented by \a depth levels; each begins with its line end.
+    QString toLines(const Palette &palette, int depth) const;
+
+    QJsonValue toJson() const;
+
+private:
+    std::variant<std::monostate, bool, int, unsigned int, double, QString, Fields, List> m_value;
+};
+
+/// \a text with all that could disturb or deceive on a terminal written as an escape sequence.
+QString printable(const QString &text);
+
+} // namespace inspect

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "outline.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+#include <optional>
+
+namespace inspect {
+
+/// What the library makes of one reply.
+struct Reply
+{
+    /// What was recognised: the name of the first element in the Body, or a description.
+    QString kind;
+
+    /// The record; nothing if the library has none for this kind of reply.
+    std::optional<Outline> record;
+
+    /// A sentence for the reader, where there is no record.
+    QString remark;
+};
+
+Reply read(const QByteArray &bytes);
+
+} // namespace inspect
