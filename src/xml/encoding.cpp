@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 #include <optional>
+#include <string_view>
 
 namespace vorn {
 namespace {
@@ -25,33 +26,34 @@ std::optional<QStringConverter::Encoding> detectedEncoding(QByteArrayView bytes)
 }
 
 /// The encoding's name in the XML declaration; empty if there is none.
-QByteArray declaredEncoding(QByteArrayView bytes)
+QByteArrayView declaredEncoding(QByteArrayView bytes)
 {
     const QByteArrayView reply = bytes.trimmed();
     if (!reply.startsWith(declarationStart))
         return {};
-    QByteArrayView rest = reply.first(qMax(reply.indexOf("?>"), qsizetype(0)));
+    const QByteArrayView declaration = reply.first(qMax(reply.indexOf('>'), qsizetype(0)));
 
-    constexpr QByteArrayView keyword("encoding");
-    const qsizetype position = rest.indexOf(keyword);
-    if (position < 0)
+    constexpr std::string_view keyword("encoding");
+    const auto position = std::string_view(declaration.data(), std::size_t(declaration.size())).find(keyword);
+    if (position == std::string_view::npos)
         return {};
-    rest = rest.sliced(position + keyword.size()).trimmed();
+    QByteArrayView rest = declaration.sliced(qsizetype(position + keyword.size())).trimmed();
     if (!rest.startsWith('='))
         return {};
     rest = rest.sliced(1).trimmed();
     if (!rest.startsWith('"') && !rest.startsWith('\''))
         return {};
     const qsizetype end = rest.indexOf(rest.front(), 1);
-    return end < 0 ? QByteArray() : rest.sliced(1, end - 1).toByteArray();
+    return end < 0 ? QByteArrayView() : rest.sliced(1, end - 1);
 }
 
 /// Decodes by the name in the XML declaration, unless that is UTF-8 or of no use.
 std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
 {
-    const QByteArray name = declaredEncoding(bytes);
-    if (name.isEmpty())
+    const QByteArrayView declared = declaredEncoding(bytes);
+    if (declared.isEmpty() || declared.compare("UTF-8", Qt::CaseInsensitive) == 0)
         return std::nullopt;
+    const QByteArray name = declared.toByteArray();
     const auto encoding = QStringConverter::encodingForName(name.constData());
     if (encoding == QStringConverter::Utf8)
         return std::nullopt;

@@ -15,6 +15,16 @@ class DepthLimit : public pugi::xml_tree_walker
     bool for_each(pugi::xml_node &node) override { return node.type() != pugi::node_element || depth() < maximumDepth; }
 };
 
+/// Whether \a tree, parsed from \a size bytes, keeps within the bound on depth.
+bool keepsDepth(pugi::xml_document &tree, std::size_t size)
+{
+    constexpr std::size_t shortestLevel = sizeof("<a></a>") - 1;
+    if (size <= shortestLevel * maximumDepth) // too short to be nested deeper
+        return true;
+    DepthLimit limit;
+    return tree.traverse(limit);
+}
+
 /// Whether the document element is all that the parser found; it skips what may stand beside it.
 bool hasSoleElement(const pugi::xml_document &tree)
 {
@@ -42,8 +52,7 @@ XmlDocument::XmlDocument(const QByteArray &bytes, const QString &root)
     const auto size = static_cast<std::size_t>(reply.utf8.size());
     const bool parsed = m_tree.load_buffer(reply.utf8.constData(), size, options, pugi::encoding_utf8);
 
-    DepthLimit depthLimit;
-    if (parsed && hasSoleElement(m_tree) && m_tree.traverse(depthLimit))
+    if (parsed && hasSoleElement(m_tree) && keepsDepth(m_tree, size))
         m_root = descend(m_tree.root(), root);
     else
         m_tree.reset();

@@ -45,6 +45,15 @@ TEST(XmlResponseDepth, of257LevelsIsAnEmptyDocument)
     }
 }
 
+TEST(XmlResponseDepth, countsTheShortestLevelsToo)
+{
+    const auto shortest = [](int levels) {
+        return QByteArray("<a>").repeated(levels - 1) + "<a/>" + QByteArray("</a>").repeated(levels - 1);
+    };
+    EXPECT_TRUE(XmlResponse(shortest(256), "").get(pathOf(256)).valid);
+    EXPECT_FALSE(XmlResponse(shortest(257), "").get("/a").valid);
+}
+
 TEST(XmlResponseDepth, countsElementsOnly)
 {
     XmlResponse response(QByteArray("<a>").repeated(256) + "x<!-- --><![CDATA[y]]>" + QByteArray("</a>").repeated(256),
