@@ -1,6 +1,7 @@
 // Times the library's roads against QDomDocument::setContent and checks each against its limit.
 
 #include "device.h"
+#include "fault.h"
 #include "road.h"
 
 #include <benchmark/benchmark.h>
@@ -14,5 +15,6 @@ int main(int argc, char **argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;
     bench::addDeviceRoads();
+    bench::addFaultRoads();
     return bench::runAll(std::cout) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

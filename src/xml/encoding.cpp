@@ -34,10 +34,11 @@ QByteArrayView declaredEncoding(QByteArrayView bytes)
     const QByteArrayView declaration = reply.first(qMax(reply.indexOf('>'), qsizetype(0)));
 
     constexpr std::string_view keyword("encoding");
-    const auto position = std::string_view(declaration.data(), std::size_t(declaration.size())).find(keyword);
+    const std::string_view text(declaration.data(), std::size_t(declaration.size()));
+    const auto position = text.find(keyword);
     if (position == std::string_view::npos)
         return {};
-    QByteArrayView rest = declaration.sliced(qsizetype(position + keyword.size())).trimmed();
+    QByteArrayView rest = QByteArrayView(text.substr(position + keyword.size())).trimmed();
     if (!rest.startsWith('='))
         return {};
     rest = rest.sliced(1).trimmed();

@@ -118,6 +118,53 @@ TEST(Inspect, printsJsonWithTheNamesOfTheFields)
     EXPECT_EQ(second.value("remark").toString(), "The library has no record for this reply.");
 }
 
+const QString fixedUser = QStringLiteral(SAMPLES_FOLDER "/faults/FixedUser.xml");
+
+TEST(Inspect, showsAFaultByNameNumberAndSentence)
+{
+    const Result result = inspect({fixedUser});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, QByteArray("SOAP fault\n"
+                                        "  faultType: \"Sender\"\n"
+                                        "  subcodeType: \"InvalidArgVal\"\n"
+                                        "  specificType: \"FixedUser\"\n"
+                                        "  errorId: 4\n"
+                                        "  sentence: \"Password or user level may not be changed.\"\n"));
+    EXPECT_EQ(result.errors, QByteArray());
+}
+
+TEST(Inspect, takesTheNameOfTheRequest)
+{
+    const Result result = inspect({"--action", "DeleteUsers", fixedUser});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_TRUE(result.output.contains("sentence: \"Client trying to remove fixed user.\"\n"))
+        << result.output.toStdString();
+    EXPECT_EQ(inspect({fixedUser, "--action"}).exitCode, 2);
+}
+
+TEST(Inspect, printsAFaultAsJson)
+{
+    const QJsonObject line = QJsonDocument::fromJson(inspect({"--json", fixedUser}).output).object();
+    EXPECT_EQ(line.value("reply").toString(), "SOAP fault");
+    EXPECT_FALSE(line.contains("record"));
+    const QJsonObject expected{{"faultType", "Sender"},
+                               {"subcodeType", "InvalidArgVal"},
+                               {"specificType", "FixedUser"},
+                               {"errorId", 4},
+                               {"sentence", "Password or user level may not be changed."}};
+    EXPECT_EQ(line.value("fault").toObject(), expected);
+}
+
+TEST(Inspect, namesTheFaultsThatAreNotOfSoap)
+{
+    EXPECT_TRUE(inspect({"-"}, "<html><head><title>404</title></head></html>").output.contains("\"HttpNotFound\""));
+    EXPECT_TRUE(inspect({"-"}, "<html><head><title>x</title></head></html>").output.contains("\"UnknownHttpError\""));
+    EXPECT_TRUE(inspect({"-"}, "<Fault><Reason><Text>Unsupported protocol</Text></Reason></Fault>")
+                    .output.contains("\"UnsupportedProtocol\""));
+    EXPECT_TRUE(
+        inspect({"-"}, inBody("<Fault><Code><Value>x</Value></Code></Fault>")).output.contains("\"UnknownSoapCode\""));
+}
+
 TEST(Inspect, printsNothingThatCouldDisturbATerminal)
 {
     const Result result = inspect({"-"}, inBody("<GetDeviceInformationResponse><Model>a&#27;[31m&#10;\"\\&#9;&#x202E;&#"

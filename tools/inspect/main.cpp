@@ -56,9 +56,10 @@ bool open(QFile &file)
 
 QString asJson(const QString &fileName, const inspect::Reply &reply)
 {
+    const QString content = reply.isFault ? QStringLiteral("fault") : QStringLiteral("record");
     QJsonObject json{{QStringLiteral("file"), fileName},
                      {QStringLiteral("reply"), reply.kind},
-                     {QStringLiteral("record"), reply.record ? reply.record->toJson() : QJsonValue()}};
+                     {content, reply.record ? reply.record->toJson() : QJsonValue()}};
     if (!reply.remark.isEmpty())
         json.insert(QStringLiteral("remark"), reply.remark);
     return QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact)) + QLatin1Char('\n');
@@ -88,7 +89,11 @@ int main(int argc, char **argv)
                                      QStringLiteral("Shows the version."));
     const QCommandLineOption json(QStringLiteral("json"),
                                   QStringLiteral("Prints one line of JSON for each reply, for scripts."));
-    parser.addOptions({help, version, json});
+    const QCommandLineOption action(QStringLiteral("action"),
+                                    QStringLiteral("The request that the replies answer, such as DeleteUsers. The "
+                                                   "sentence of a fault may depend on it."),
+                                    QStringLiteral("NAME"));
+    parser.addOptions({help, version, json, action});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("A file with the bytes of a reply; - for standard input."),
                                  QStringLiteral("FILE..."));
@@ -112,6 +117,7 @@ int main(int argc, char **argv)
         return CannotRun;
     }
 
+    const QByteArray actionName = parser.value(action).toUtf8();
     const inspect::Palette palette = paletteForOutput();
     int exitCode = Read;
     for (const QString &fileName : fileNames) {
@@ -122,10 +128,10 @@ int main(int argc, char **argv)
             exitCode = CannotRun;
             continue;
         }
-        const inspect::Reply reply = inspect::read(file.readAll());
+        const inspect::Reply reply = inspect::read(file.readAll(), actionName.constData());
         const QString heading = fileNames.size() > 1 ? fileName + QLatin1String(": ") : QString();
         print(stdout, parser.isSet(json) ? asJson(fileName, reply) : asOutline(heading, reply, palette));
-        exitCode = std::max<int>(exitCode, reply.record ? Read : NothingRead);
+        exitCode = std::max<int>(exitCode, reply.record && !reply.isFault ? Read : NothingRead);
     }
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         complain(QStringLiteral("cannot write the output. Check that there is room for it."));

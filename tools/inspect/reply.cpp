@@ -1,6 +1,7 @@
 #include "reply.h"
 
-#include <vorn/onvif/device.h>
+#include "outlines.h"
+
 #include <vorn/util/xmlresponse.h>
 
 #include <algorithm>
@@ -8,15 +9,6 @@
 
 namespace inspect {
 namespace {
-
-Outline outline(const vorn::OnvifDeviceInformation &record)
-{
-    return Outline::Fields{
-        {"manufacturer", record.manufacturer},       {"model", record.model},
-        {"firmwareVersion", record.firmwareVersion}, {"serialNumber", record.serialNumber},
-        {"hardwareId", record.hardwareId},
-    };
-}
 
 /// A record that the library has: the element that its reply holds in the Body, and how to read it.
 struct Reader
@@ -37,7 +29,7 @@ Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
 
     const QString element = body.children.constFirst().name;
     if (element == QLatin1String("Fault"))
-        return {QStringLiteral("SOAP fault"), {}, QStringLiteral("The device refused the request.")};
+        return {QStringLiteral("SOAP fault"), {}, QStringLiteral("It has no Code, so it is not one of SOAP 1.2.")};
 
     const auto *const reader = std::find_if(std::begin(readers), std::end(readers), [&](const Reader &candidate) {
         return element == QLatin1String(candidate.element);
@@ -47,6 +39,20 @@ Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
     return {element, reader->read(bytes), {}};
 }
 
+Reply readFault(vorn::OnvifFault &fault)
+{
+    Reply reply;
+    if (fault.response.get(QStringLiteral("/html")).valid)
+        reply.kind = QStringLiteral("HTML page");
+    else if (fault.response.get(QStringLiteral("/Fault")).valid)
+        reply.kind = QStringLiteral("bare fault");
+    else
+        reply.kind = QStringLiteral("SOAP fault");
+    reply.record = outline(fault);
+    reply.isFault = true;
+    return reply;
+}
+
 Reply readOther(const QString &text)
 {
     const QString start = text.left(4096);
@@ -54,8 +60,9 @@ Reply readOther(const QString &text)
         return {QStringLiteral("nothing"), {}, QStringLiteral("The reply is empty.")};
     if (start.contains(QLatin1String("<html"), Qt::CaseInsensitive)
         || start.contains(QLatin1String("<!DOCTYPE html"), Qt::CaseInsensitive))
-        return {
-            QStringLiteral("HTML page"), {}, QStringLiteral("It is not well-formed, so nothing can be read from it.")};
+        return {QStringLiteral("HTML page"),
+                {},
+                QStringLiteral("It is not well-formed or has no title, so it tells nothing.")};
     return {QStringLiteral("something else"),
             {},
             QStringLiteral("It is neither a SOAP reply nor a fault nor an HTML page, or it is not well-formed.")};
@@ -63,19 +70,20 @@ Reply readOther(const QString &text)
 
 } // namespace
 
-Reply read(const QByteArray &bytes)
+Reply read(const QByteArray &bytes, const char *action)
 {
-    vorn::XmlResponse response(bytes, QString());
+    vorn::OnvifFault fault(bytes, action, 0);
+    vorn::XmlResponse &response = fault.response;
+    if (fault.hasError())
+        return readFault(fault);
     const vorn::XmlResponseNode body = response.get(QStringLiteral("/Envelope/Body"));
     if (body.valid)
         return readBody(body, bytes);
     if (response.get(QStringLiteral("/Envelope")).valid)
         return {QStringLiteral("SOAP envelope"), {}, QStringLiteral("It has no Body.")};
     if (response.get(QStringLiteral("/Fault")).valid)
-        return {QStringLiteral("bare fault"), {}, QStringLiteral("The transport failed.")};
-    if (response.get(QStringLiteral("/html")).valid)
-        return {QStringLiteral("HTML page"), {}, QStringLiteral("The reply comes from a web server.")};
-    return readOther(response.xml());
+        return {QStringLiteral("bare fault"), {}, QStringLiteral("It has no reason.")};
+    return readOther(fault.xml);
 }
 
 } // namespace inspect

@@ -15,13 +15,16 @@ struct Reply
     /// What was recognised: the name of the first element in the Body, or a description.
     QString kind;
 
-    /// The record; nothing if the library has none for this kind of reply.
+    /// The record, or the codes of the fault; nothing if the library has none for this kind of reply.
     std::optional<Outline> record;
 
     /// A sentence for the reader, where there is no record.
     QString remark;
+
+    bool isFault = false;
 };
 
-Reply read(const QByteArray &bytes);
+/// Reads the reply \a bytes to the request \a action, which must outlive the call only.
+Reply read(const QByteArray &bytes, const char *action);
 
 } // namespace inspect
