@@ -13,12 +13,34 @@
 namespace bench {
 namespace {
 
-const std::string yardstickSuffix = "/setContent";
-
-std::vector<Road> &roads()
+/// A task and what it is measured against.
+struct Comparison
 {
-    static std::vector<Road> all;
+    std::string name;
+    std::string yardstick;
+    qsizetype bytes;
+    double limit; ///< the most that the task may cost, as a multiple of the yardstick
+
+    std::string yardstickName() const { return name + " against " + yardstick; }
+};
+
+std::vector<Comparison> &comparisons()
+{
+    static std::vector<Comparison> all;
     return all;
+}
+
+void add(const Comparison &comparison, const std::function<void()> &task, const std::function<void()> &yardstick)
+{
+    comparisons().push_back(comparison);
+    const auto registerTask = [](const std::string &name, const std::function<void()> &run) {
+        benchmark::RegisterBenchmark(name.c_str(), [run](benchmark::State &state) {
+            for (auto _ : state)
+                run();
+        });
+    };
+    registerTask(comparison.name, task);
+    registerTask(comparison.yardstickName(), yardstick);
 }
 
 /// Keeps the median of each benchmark's repetitions.
@@ -40,19 +62,22 @@ public:
 
 } // namespace
 
-void add(const Road &road)
+void addRoad(const std::string &name, const QByteArray &reply, double limit, const Read &read)
 {
-    roads().push_back(road);
-    benchmark::RegisterBenchmark(road.name.c_str(), [road](benchmark::State &state) {
-        for (auto _ : state)
-            road.run(road.reply);
-    });
-    benchmark::RegisterBenchmark((road.name + yardstickSuffix).c_str(), [road](benchmark::State &state) {
-        for (auto _ : state) {
+    add(
+        {name, "setContent", reply.size(), limit}, [=] { read(reply); },
+        [=] {
             QDomDocument document;
-            benchmark::DoNotOptimize(document.setContent(road.reply));
-        }
-    });
+            benchmark::DoNotOptimize(document.setContent(reply));
+        });
+}
+
+void addGrowth(const std::string &name, const QByteArray &small, const QByteArray &large, double limit,
+               const Read &read)
+{
+    add(
+        {name, std::to_string(small.size()) + " bytes", large.size(), limit}, [=] { read(large); },
+        [=] { read(small); });
 }
 
 bool runAll(std::ostream &output)
@@ -60,22 +85,24 @@ bool runAll(std::ostream &output)
     MedianReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
 
-    output << std::left << std::setw(52) << "road" << std::right << std::setw(8) << "bytes" << std::setw(12)
-           << "road us" << std::setw(16) << "setContent us" << std::setw(8) << "ratio" << std::setw(8) << "limit"
-           << '\n'
+    output << std::left << std::setw(44) << "" << std::right << std::setw(9) << "bytes" << std::setw(12) << "us"
+           << "  " << std::left << std::setw(14) << "against" << std::right << std::setw(12) << "us" << std::setw(9)
+           << "ratio" << std::setw(8) << "limit" << '\n'
            << std::fixed;
     bool good = true;
-    for (const Road &road : roads()) {
-        if (reporter.medians.count(road.name) == 0)
+    for (const Comparison &comparison : comparisons()) {
+        if (reporter.medians.count(comparison.name) == 0)
             continue; // filtered out
-        const double time = reporter.medians[road.name];
-        const double yardstick = reporter.medians[road.name + yardstickSuffix];
+        const double time = reporter.medians[comparison.name];
+        const double yardstick = reporter.medians[comparison.yardstickName()];
         const double ratio = time / yardstick;
-        output << std::left << std::setw(52) << road.name << std::right << std::setw(8) << road.reply.size()
-               << std::setprecision(2) << std::setw(12) << time / 1000 << std::setw(16) << yardstick / 1000
-               << std::setprecision(3) << std::setw(8) << ratio << std::setprecision(2) << std::setw(8) << road.limit
-               << (ratio > road.limit ? "  OVER THE LIMIT" : "") << '\n';
-        good = good && ratio <= road.limit;
+        const bool isOver = ratio > comparison.limit;
+        output << std::left << std::setw(44) << comparison.name << std::right << std::setw(9) << comparison.bytes
+               << std::setprecision(2) << std::setw(12) << time / 1000 << "  " << std::left << std::setw(14)
+               << comparison.yardstick << std::right << std::setw(12) << yardstick / 1000 << std::setprecision(3)
+               << std::setw(9) << ratio << std::setprecision(2) << std::setw(8) << comparison.limit
+               << (isOver ? "  OVER THE LIMIT" : "") << '\n';
+        good = good && !isOver;
     }
     return good;
 }

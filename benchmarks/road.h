@@ -9,19 +9,18 @@
 
 namespace bench {
 
-/// One way from the bytes of a reply to a record and on to its destruction, timed against its yardstick: what
-/// `QDomDocument::setContent` and the document's destruction cost on the same bytes in the same run.
-struct Road
-{
-    std::string name;
-    QByteArray reply;
-    double limit; ///< the most that the road may cost, as a fraction of the yardstick
-    std::function<void(const QByteArray &reply)> run;
-};
+/// From the bytes of a reply to a record and on to its destruction.
+using Read = std::function<void(const QByteArray &reply)>;
 
-void add(const Road &road);
+/// Times \a read on \a reply against what `QDomDocument::setContent` and the document's destruction cost on the same
+/// bytes. It may cost at most \a limit of that.
+void addRoad(const std::string &name, const QByteArray &reply, double limit, const Read &read);
 
-/// Runs all roads and prints a table of them. False if one costs more than its limit.
+/// Times \a read on \a large against the same on \a small. It may cost at most \a limit times as much.
+void addGrowth(const std::string &name, const QByteArray &small, const QByteArray &large, double limit,
+               const Read &read);
+
+/// Runs all in one run and prints a table. False if one is over its limit.
 bool runAll(std::ostream &output);
 
 /// The bytes of a file below samples/. Ends the program if there is no such file.

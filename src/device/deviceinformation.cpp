@@ -2,15 +2,17 @@
 
 namespace vorn {
 
+using namespace Qt::StringLiterals;
+
 OnvifDeviceInformation::OnvifDeviceInformation() = default;
 
 OnvifDeviceInformation::OnvifDeviceInformation(const QByteArray &bytes)
-    : OnvifResponseStructure(bytes, QStringLiteral("/Envelope/Body/GetDeviceInformationResponse"))
-    , manufacturer(response.getText(QStringLiteral("/Manufacturer")))
-    , model(response.getText(QStringLiteral("/Model")))
-    , firmwareVersion(response.getText(QStringLiteral("/FirmwareVersion")))
-    , serialNumber(response.getText(QStringLiteral("/SerialNumber")))
-    , hardwareId(response.getText(QStringLiteral("/HardwareId")))
+    : OnvifResponseStructure(bytes, u"/Envelope/Body/GetDeviceInformationResponse"_s)
+    , manufacturer(response.getText(u"/Manufacturer"_s))
+    , model(response.getText(u"/Model"_s))
+    , firmwareVersion(response.getText(u"/FirmwareVersion"_s))
+    , serialNumber(response.getText(u"/SerialNumber"_s))
+    , hardwareId(response.getText(u"/HardwareId"_s))
 {
 }
 

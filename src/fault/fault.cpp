@@ -1,3 +1,4 @@
+#include "core/foundtext.h"
 #include "faultcodes.h"
 
 #include <vorn/onvif/faults.h>
@@ -5,11 +6,10 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringView>
 
-#include <optional>
-
 namespace vorn {
 namespace {
 
+using namespace Qt::StringLiterals;
 using namespace faultcodes;
 
 /// The row whose literal \a value ends with; null if there is none.
@@ -37,16 +37,6 @@ OnvifFault::FaultType typeByText(Rows<TextCode> rows, const QString &sentence, O
             return row.type;
     }
     return otherwise;
-}
-
-/// The text of the element at \a path; nothing if there is no such element. An element that has text is there, and
-/// asking for the text costs much less than asking for the element.
-std::optional<QString> textIfFound(XmlResponse &response, const QString &path)
-{
-    QString text = response.getText(path);
-    if (text.isEmpty() && !response.get(path).valid)
-        return std::nullopt;
-    return text;
 }
 
 const char *sentenceOf(const SoapCode &code, OnvifFault::SubcodeType subcodeType, OnvifFault::SpecificType specificType)
@@ -153,11 +143,11 @@ QString OnvifFault::tr(const char *sourceText, const char *disambiguation, int n
 
 void OnvifFault::classify()
 {
-    if (const auto code = textIfFound(response, QStringLiteral("/Envelope/Body/Fault/Code/Value")))
+    if (const auto code = foundText(response, u"/Envelope/Body/Fault/Code/Value"_s))
         classifySoapFault(*code);
-    else if (const auto title = textIfFound(response, QStringLiteral("/html/head/title")))
+    else if (const auto title = foundText(response, u"/html/head/title"_s))
         faultType = typeByText(httpCodes, *title, UnknownHttpError);
-    else if (const auto reason = textIfFound(response, QStringLiteral("/Fault/Reason/Text")))
+    else if (const auto reason = foundText(response, u"/Fault/Reason/Text"_s))
         faultType = typeByText(transportCodes, *reason, typeByText(httpCodes, *reason, UnknownTransportError));
 }
 
@@ -170,7 +160,7 @@ void OnvifFault::classifySoapFault(const QString &value)
     }
     if (code->type == Sender) {
         // Devices tell in the reason what their web server refused.
-        const QString reason = response.getText(QStringLiteral("/Envelope/Body/Fault/Reason/Text"));
+        const QString reason = response.getText(u"/Envelope/Body/Fault/Reason/Text"_s);
         if (reason.contains(QLatin1String("HTTP"))) {
             faultType = typeByText(httpCodes, reason, UnknownHttpError);
             return;
@@ -179,7 +169,7 @@ void OnvifFault::classifySoapFault(const QString &value)
     faultType = code->type;
     if (code->subcodes.isEmpty())
         return;
-    const QString subcodeValue = response.getText(QStringLiteral("/Envelope/Body/Fault/Code/Subcode/Value"));
+    const QString subcodeValue = response.getText(u"/Envelope/Body/Fault/Code/Subcode/Value"_s);
     const Subcode *subcode = match(code->subcodes, subcodeValue);
     if (!subcode)
         return;
@@ -192,7 +182,7 @@ void OnvifFault::classifySoapFault(const QString &value)
 
 QString OnvifFault::getSpecificCode()
 {
-    return response.getText(QStringLiteral("/Envelope/Body/Fault/Code/Subcode/Subcode/Value"));
+    return response.getText(u"/Envelope/Body/Fault/Code/Subcode/Subcode/Value"_s);
 }
 
 } // namespace vorn

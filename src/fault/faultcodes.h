@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <string_view>
 
-/// What is known of faults: which texts of a reply stand for which code, and the sentence for each code. A new code is
-/// one row here and one enumerator in OnvifFault.
+/// What is known of faults: which texts of a reply stand for which code, and the sentence for each code. The
+/// classification and the sentences read the same rows.
 namespace vorn::faultcodes {
 
 /// A table.
@@ -65,6 +65,7 @@ struct TextCode
 {
     std::string_view text; ///< what the sentence contains
     OnvifFault::FaultType type;
+    const char *name;     ///< of the type
     const char *sentence; ///< null: unknownError
 };
 
@@ -428,37 +429,40 @@ inline constexpr SoapCode soapCodes[] = {
 
 /// HTTP failures, told by a page's title, a reason or a transport. The first text that is contained counts.
 inline constexpr TextCode httpCodes[] = {
-    {"400", OnvifFault::HttpBadRequest, QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 400: Bad Request.")},
-    {"401", OnvifFault::HttpUnauthorised, QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 401: Unauthorised.")},
-    {"404", OnvifFault::HttpNotFound, nullptr},
-    {"405", OnvifFault::HttpMethodNotAllowed,
+    {"400", OnvifFault::HttpBadRequest, "HttpBadRequest",
+     QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 400: Bad Request.")},
+    {"401", OnvifFault::HttpUnauthorised, "HttpUnauthorised",
+     QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 401: Unauthorised.")},
+    {"404", OnvifFault::HttpNotFound, "HttpNotFound", nullptr},
+    {"405", OnvifFault::HttpMethodNotAllowed, "HttpMethodNotAllowed",
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 405: Method Not Allowed.")},
-    {"415", OnvifFault::HttpUnsupportedMedia,
+    {"415", OnvifFault::HttpUnsupportedMedia, "HttpUnsupportedMedia",
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 415: Unsupported Media.")},
 };
 
 /// Transport failures. The first text that is contained counts, and each of them before any HTTP failure.
 inline constexpr TextCode transportCodes[] = {
-    {"URL using bad/illegal format or missing URL", OnvifFault::BadUrl,
+    {"URL using bad/illegal format or missing URL", OnvifFault::BadUrl, "BadUrl",
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "URL using bad/illegal format or missing URL.")},
-    {"Failure when receiving data from the peer", OnvifFault::ReceiveFailure,
+    {"Failure when receiving data from the peer", OnvifFault::ReceiveFailure, "ReceiveFailure",
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Failure when receiving data from the peer.")},
-    {"Empty reply from Camera", OnvifFault::EmptyReply,
+    {"Empty reply from Camera", OnvifFault::EmptyReply, "EmptyReply",
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Empty reply from Camera")},
-    {"Transferred a partial file", OnvifFault::PartialFile,
+    {"Transferred a partial file", OnvifFault::PartialFile, "PartialFile",
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Transferred a partial file.")},
-    {"Couldn't resolve host name", OnvifFault::HostNotResolved,
+    {"Couldn't resolve host name", OnvifFault::HostNotResolved, "HostNotResolved",
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Couldn't resolve host name.")},
-    {"Unsupported protocol", OnvifFault::UnsupportedProtocol,
+    {"Unsupported protocol", OnvifFault::UnsupportedProtocol, "UnsupportedProtocol",
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Unsupported protocol.")},
 };
 
 /// What is told by no text of its own.
 inline constexpr TextCode otherCodes[] = {
-    {"", OnvifFault::NoFault, QT_TRANSLATE_NOOP("vorn::OnvifFault", "No error.")},
-    {"", OnvifFault::UnknownSoapCode, nullptr},
-    {"", OnvifFault::UnknownHttpError, QT_TRANSLATE_NOOP("vorn::OnvifFault", "Unknown HTTP Error.")},
-    {"", OnvifFault::UnknownTransportError, nullptr},
+    {"", OnvifFault::NoFault, "NoFault", QT_TRANSLATE_NOOP("vorn::OnvifFault", "No error.")},
+    {"", OnvifFault::UnknownSoapCode, "UnknownSoapCode", nullptr},
+    {"", OnvifFault::UnknownHttpError, "UnknownHttpError",
+     QT_TRANSLATE_NOOP("vorn::OnvifFault", "Unknown HTTP Error.")},
+    {"", OnvifFault::UnknownTransportError, "UnknownTransportError", nullptr},
 };
 
 /// The sentence of OnvifFault::FixedUser where the request was to delete users.

@@ -3,8 +3,6 @@
 #include "xmlnames.h"
 #include "xmltext.h"
 
-#include <algorithm>
-
 namespace vorn {
 
 // QDom walks from an element up to its document whenever an attribute is set on it or a child appended. So an element
@@ -12,13 +10,18 @@ namespace vorn {
 XmlResponseNode NodeBuilder::node(pugi::xml_node element)
 {
     XmlResponseNode node;
-    const Name &elementName = name(element.name());
+    fill(node, element);
+    return node;
+}
+
+void NodeBuilder::fill(XmlResponseNode &node, pugi::xml_node source)
+{
+    const Name &elementName = name(source.name());
     node.valid = true;
     node.name = elementName.local;
     node.element = m_document.createElement(elementName.qualified);
-    setAttributes(node.element, element);
-    appendContent(node, element);
-    return node;
+    setAttributes(node.element, source);
+    appendContent(node, source);
 }
 
 const NodeBuilder::Name &NodeBuilder::name(const char *qualifiedName)
@@ -47,10 +50,11 @@ void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
 
     if (isCharacterData(pugi::node_pcdata, source.value()))
         node.element.appendChild(m_document.createTextNode(toQString(source.value())));
-    for (const pugi::xml_node child : children) {
+    for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling()) {
         if (child.type() == pugi::node_element) {
-            node.children.append(this->node(child));
-            node.element.appendChild(node.children.constLast().element);
+            XmlResponseNode &childNode = node.children.emplaceBack();
+            fill(childNode, child);
+            node.element.appendChild(childNode.element);
         } else if (child.type() == pugi::node_cdata) {
             node.element.appendChild(m_document.createCDATASection(toQString(child.value())));
         } else if (isCharacterData(child.type(), child.value())) {

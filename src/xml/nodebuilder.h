@@ -28,6 +28,7 @@ private:
         QString local;
     };
 
+    void fill(XmlResponseNode &node, pugi::xml_node source);
     const Name &name(const char *qualifiedName);
     void setAttributes(QDomElement &element, pugi::xml_node source);
     void appendContent(XmlResponseNode &node, pugi::xml_node source);

@@ -16,13 +16,16 @@ public:
 
     const QString &text() const { return m_text; }
 
+    /// The element at the root path, the parent of the document element where that path is empty, or null.
+    pugi::xml_node root() const { return m_root; }
+
     /// The element at \a path below the root path; null if it is missing.
     pugi::xml_node find(QStringView path) const;
 
 private:
     QString m_text;
     pugi::xml_document m_tree;
-    pugi::xml_node m_root; // the element at the root path, or the tree itself where that path is empty
+    pugi::xml_node m_root;
 };
 
 } // namespace vorn

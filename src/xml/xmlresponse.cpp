@@ -11,12 +11,6 @@
 namespace vorn {
 namespace {
 
-/// The element at \a path below the root path; null if it is missing.
-pugi::xml_node find(const std::shared_ptr<const XmlDocument> &document, QStringView path)
-{
-    return document ? document->find(path) : pugi::xml_node();
-}
-
 /// The node at \a path, whose first component names \a node itself; null if it is missing.
 const XmlResponseNode *find(const XmlResponseNode &node, QStringView path)
 {
@@ -78,20 +72,20 @@ QString XmlResponse::xml() const
 
 XmlResponseNode XmlResponse::get(const QString &path)
 {
-    const pugi::xml_node element = find(m_document, path);
+    const pugi::xml_node element = pugi::xml_node(find(path));
     return element ? nodeBuilder().node(element) : XmlResponseNode();
 }
 
 XmlResponseNode XmlResponse::get(const XmlResponseNode &node, const QString &path)
 {
-    const XmlResponseNode *found = find(node, path);
+    const XmlResponseNode *found = vorn::find(node, path);
     return found ? *found : XmlResponseNode();
 }
 
 QList<XmlResponseNode> XmlResponse::getAll(const QString &path)
 {
     QList<XmlResponseNode> nodes;
-    pugi::xml_node element = find(m_document, path);
+    pugi::xml_node element = pugi::xml_node(find(path));
     while (element) {
         nodes.append(nodeBuilder().node(element));
         element = firstNamed(element.next_sibling(), nodes.constFirst().name);
@@ -101,18 +95,22 @@ QList<XmlResponseNode> XmlResponse::getAll(const QString &path)
 
 QString XmlResponse::getText(const QString &path)
 {
-    return textOf(find(m_document, path));
+    return textOf(pugi::xml_node(find(path)));
 }
 
 QString XmlResponse::getText(const XmlResponseNode &node, const QString &path)
 {
-    const XmlResponseNode *found = find(node, path);
-    return found ? found->element.text() : QString();
+    const XmlResponseNode *found = vorn::find(node, path);
+    if (!found)
+        return {};
+    const QDomNode content = found->element.firstChild();
+    const bool isOneText = content.isText() && found->element.lastChild() == content;
+    return isOneText ? content.nodeValue() : found->element.text(); // the value is shared, the text a copy
 }
 
 unsigned int XmlResponse::getUInt(const QString &path)
 {
-    return uintOf(find(m_document, path));
+    return uintOf(pugi::xml_node(find(path)));
 }
 
 unsigned int XmlResponse::getUInt(const XmlResponseNode &node, const QString &path)
@@ -122,16 +120,39 @@ unsigned int XmlResponse::getUInt(const XmlResponseNode &node, const QString &pa
 
 bool XmlResponse::getBool(const QString &path)
 {
-    return boolOf(find(m_document, path));
+    return boolOf(pugi::xml_node(find(path)));
 }
 
 QString XmlResponse::getAttribute(const QString &attribute, const QString &path)
 {
-    for (const pugi::xml_attribute candidate : find(m_document, path).attributes()) {
+    for (const pugi::xml_attribute candidate : pugi::xml_node(find(path)).attributes()) {
         if (equals(candidate.name(), attribute))
             return toQString(candidate.value());
     }
     return {};
+}
+
+pugi::xml_node_struct *XmlResponse::find(const QString &path)
+{
+    if (!m_document)
+        return nullptr;
+    const QStringView view(path);
+    const auto slash = std::find(view.rbegin(), view.rend(), u'/');
+    if (slash == view.rend()) // the empty path, or none
+        return m_document->find(view).internal_object();
+
+    const QStringView name(slash.base(), view.end());
+    const QStringView parentPath = view.chopped(name.size() + 1);
+    pugi::xml_node parent = m_document->root();
+    if (!parentPath.isEmpty()) {
+        if (parentPath != QStringView(m_lastPath).first(m_parentLength)) {
+            m_parent = m_document->find(parentPath).internal_object();
+            m_lastPath = path;
+            m_parentLength = parentPath.size();
+        }
+        parent = pugi::xml_node(m_parent);
+    }
+    return firstNamed(parent.first_child(), name).internal_object();
 }
 
 NodeBuilder &XmlResponse::nodeBuilder()

@@ -4,6 +4,8 @@
 #include <QtCore/QStringDecoder>
 #include <QtCore/QVarLengthArray>
 
+#include <cstring>
+
 namespace vorn {
 namespace {
 
@@ -94,6 +96,12 @@ unsigned int uintOf(pugi::xml_node element)
 
 bool boolOf(pugi::xml_node element)
 {
+    if (!element.first_child()) { // nothing, or one piece of text, which nearly always is one of these words
+        if (std::strcmp(element.value(), "true") == 0)
+            return true;
+        if (std::strcmp(element.value(), "false") == 0 || *element.value() == '\0')
+            return false;
+    }
     const TransientText text(element);
     const QStringView word = text.view().trimmed();
     return word == QLatin1String("true") || word == QLatin1String("1");

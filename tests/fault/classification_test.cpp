@@ -213,6 +213,7 @@ TEST(FaultClassification, senderWhoseReasonMentionsHttpIsAnHttpFailure)
     EXPECT_EQ(codesOf(SoapFault{"s:Sender", "ter:InvalidArgVal", "ter:NoProfile", "HTTP"}.document()),
               (Codes{18, 0, 0}));
     EXPECT_EQ(codesOf(SoapFault{"s:Sender", {}, {}, "xHTTPx 500"}.document()), (Codes{18, 0, 0}));
+    EXPECT_EQ(codesOf(SoapFault{"s:Sender", {}, {}, "HTTP: Unsupported protocol"}.document()), (Codes{18, 0, 0}));
 }
 
 TEST(FaultClassification, httpIsComparedWithCase)
@@ -249,6 +250,8 @@ TEST(FaultClassification, pageIsAnHttpFailureByItsTitle)
 {
     for (const NumberRow &row : httpNumbers)
         EXPECT_EQ(codesOf(page(QByteArray("Error ") + row.number + "!")), (Codes{row.faultType, 0, 0})) << row.number;
+    for (const char *part : {"40", "00", "01", "04", "05", "41", "15", "4 00"})
+        EXPECT_EQ(codesOf(page(part)), (Codes{18, 0, 0})) << part;
     EXPECT_EQ(codesOf(page("500 Internal Server Error")), (Codes{18, 0, 0}));
     EXPECT_EQ(codesOf(page("")), (Codes{18, 0, 0}));
     EXPECT_EQ(codesOf(page("Couldn't resolve host name")), (Codes{18, 0, 0}));
@@ -288,6 +291,8 @@ TEST(FaultClassification, bareFaultIsATransportFailureByItsText)
         EXPECT_EQ(codesOf(transport(QByteArray("Error: ") + row.text + " (7)")), (Codes{row.faultType, 0, 0}))
             << row.text;
         EXPECT_EQ(codesOf(transport(QByteArray(row.text).toUpper())), (Codes{19, 0, 0})) << row.text;
+        EXPECT_EQ(codesOf(transport(QByteArray(row.text).chopped(1))), (Codes{19, 0, 0})) << row.text;
+        EXPECT_EQ(codesOf(transport(QByteArray(row.text).mid(1))), (Codes{19, 0, 0})) << row.text;
     }
     EXPECT_EQ(codesOf(transport("Empty reply from Server")), (Codes{19, 0, 0}));
     EXPECT_EQ(codesOf(transport("")), (Codes{19, 0, 0}));

@@ -177,29 +177,28 @@ struct SubcodeRow
     const char *code;
     const char *subcode;
     int value;
-    bool hasSpecificCodes;
 };
 
 const SubcodeRow subcodes[] = {
-    {"Sender", "WellFormed", 1, false},
-    {"Sender", "TagMismatch", 2, false},
-    {"Sender", "Tag", 3, false},
-    {"Sender", "Namespace", 4, false},
-    {"Sender", "MissingAttr", 5, false},
-    {"Sender", "ProhibAttr", 6, false},
-    {"Sender", "InvalidArgs", 7, true},
-    {"Sender", "InvalidArgVal", 8, true},
-    {"Sender", "UnknownAction", 9, false},
-    {"Sender", "OperationProhibited", 10, true},
-    {"Sender", "NotAuthorized", 11, false},
-    {"Sender", "Action", 13, true},
-    {"Sender", "ActionNotSupported", 12, true},
-    {"Receiver", "ActionNotSupported", 12, true},
-    {"Receiver", "Action", 13, true},
-    {"Receiver", "OutofMemory", 14, false},
-    {"Receiver", "CriticalError", 15, false},
-    {"Receiver", "InvalidArgVal", 8, true},
-    {"Receiver", "OperationProhibited", 10, true},
+    {"Sender", "WellFormed", 1},
+    {"Sender", "TagMismatch", 2},
+    {"Sender", "Tag", 3},
+    {"Sender", "Namespace", 4},
+    {"Sender", "MissingAttr", 5},
+    {"Sender", "ProhibAttr", 6},
+    {"Sender", "InvalidArgs", 7},
+    {"Sender", "InvalidArgVal", 8},
+    {"Sender", "UnknownAction", 9},
+    {"Sender", "OperationProhibited", 10},
+    {"Sender", "NotAuthorized", 11},
+    {"Sender", "Action", 13},
+    {"Sender", "ActionNotSupported", 12},
+    {"Receiver", "ActionNotSupported", 12},
+    {"Receiver", "Action", 13},
+    {"Receiver", "OutofMemory", 14},
+    {"Receiver", "CriticalError", 15},
+    {"Receiver", "InvalidArgVal", 8},
+    {"Receiver", "OperationProhibited", 10},
 };
 
 /// The specific codes that are recognised under a code and subcode.

@@ -16,6 +16,72 @@ using vorn::OnvifResponseStructure;
 static_assert(std::is_abstract_v<ErrorInterface>);
 static_assert(std::has_virtual_destructor_v<ErrorInterface>);
 static_assert(sizeof(ErrorInterface) == sizeof(void *), "no data");
+
+/// An error of a program's own.
+struct WholeError : ErrorInterface
+{
+    QString toString() const override { return QStringLiteral("whole"); }
+
+    int errorId() const override { return 1; }
+
+    void reset() override {}
+
+    bool hasError() const override { return true; }
+};
+
+struct ErrorWithoutText : ErrorInterface
+{
+    int errorId() const override { return 1; }
+
+    void reset() override {}
+
+    bool hasError() const override { return true; }
+};
+
+struct ErrorWithoutId : ErrorInterface
+{
+    QString toString() const override { return {}; }
+
+    void reset() override {}
+
+    bool hasError() const override { return true; }
+};
+
+struct ErrorWithoutReset : ErrorInterface
+{
+    QString toString() const override { return {}; }
+
+    int errorId() const override { return 1; }
+
+    bool hasError() const override { return true; }
+};
+
+struct ErrorWithoutVerdict : ErrorInterface
+{
+    QString toString() const override { return {}; }
+
+    int errorId() const override { return 1; }
+
+    void reset() override {}
+};
+
+static_assert(!std::is_abstract_v<WholeError>);
+static_assert(std::is_abstract_v<ErrorWithoutText>);
+static_assert(std::is_abstract_v<ErrorWithoutId>);
+static_assert(std::is_abstract_v<ErrorWithoutReset>);
+static_assert(std::is_abstract_v<ErrorWithoutVerdict>);
+
+/// The bases and fields of OnvifFault in their order.
+struct Layout : ErrorInterface, OnvifResponseStructure
+{
+    qint32 faultType;
+    qint32 subcodeType;
+    qint32 specificType;
+    const char *action;
+    unsigned int responseId;
+};
+
+static_assert(sizeof(OnvifFault) == sizeof(Layout));
 static_assert(std::is_base_of_v<ErrorInterface, OnvifFault>);
 static_assert(std::is_base_of_v<OnvifResponseStructure, OnvifFault>);
 static_assert(std::is_same_v<std::underlying_type_t<OnvifFault::FaultType>, qint32>);
@@ -55,6 +121,28 @@ TEST(OnvifFault, isNoFaultByDefault)
     EXPECT_EQ(fault.toString(), "No error.");
 }
 
+TEST(OnvifFault, hasItsFieldsInOrder)
+{
+    const OnvifFault fault;
+    EXPECT_LT(static_cast<const void *>(static_cast<const ErrorInterface *>(&fault)),
+              static_cast<const void *>(static_cast<const OnvifResponseStructure *>(&fault)));
+    EXPECT_LT(static_cast<const void *>(&fault.xml), static_cast<const void *>(&fault.faultType));
+    EXPECT_LT(static_cast<const void *>(&fault.faultType), static_cast<const void *>(&fault.subcodeType));
+    EXPECT_LT(static_cast<const void *>(&fault.subcodeType), static_cast<const void *>(&fault.specificType));
+    EXPECT_LT(static_cast<const void *>(&fault.specificType), static_cast<const void *>(&fault.action));
+}
+
+TEST(OnvifFault, handsEveryNumberBack)
+{
+    EXPECT_EQ(OnvifFault(noProfile, "", 0xFFFFFFFFU).responseId(), 0xFFFFFFFFU);
+    EXPECT_EQ(OnvifFault({}, OnvifFault::Sender, {}, {}, 0xFFFFFFFFU).responseId(), 0xFFFFFFFFU);
+}
+
+TEST(OnvifFault, keepsANullAction)
+{
+    EXPECT_EQ(OnvifFault(noProfile, nullptr, 0).action, nullptr);
+}
+
 TEST(OnvifFault, keepsWhatItWasBuiltFrom)
 {
     const char *const action = "GetProfile";
@@ -88,6 +176,7 @@ TEST(OnvifFault, statedByTheCallerIsNotClassified)
     EXPECT_STREQ(fault.action, "");
     EXPECT_EQ(fault.xml, QString::fromLatin1(noProfile));
     EXPECT_TRUE(OnvifResponseStructure(fault).response.get("/Envelope").valid);
+    EXPECT_FALSE(OnvifFault(noProfile, OnvifFault::NoFault, {}, {}, 0).hasError());
 }
 
 TEST(OnvifFault, errorIdIsTheFaultTypeAlone)
@@ -95,11 +184,15 @@ TEST(OnvifFault, errorIdIsTheFaultTypeAlone)
     EXPECT_EQ(OnvifFault(noProfile, "", 0).errorId(), 4);
     EXPECT_EQ(OnvifFault({}, OnvifFault::Sender, OnvifFault::Tag, OnvifFault::NoSpecific, 0).errorId(), 4);
     EXPECT_EQ(OnvifFault({}, OnvifFault::UnknownTransportError, {}, {}, 0).errorId(), 19);
+    for (const int outside : {-1, 20, 1000})
+        EXPECT_EQ(OnvifFault({}, static_cast<OnvifFault::FaultType>(outside), {}, {}, 0).errorId(), outside);
 }
 
 TEST(OnvifFault, hasErrorByTheFaultTypeAlone)
 {
     EXPECT_TRUE(OnvifFault({}, OnvifFault::VersionMismatch, {}, {}, 0).hasError());
+    for (const int outside : {-1, 20})
+        EXPECT_TRUE(OnvifFault({}, static_cast<OnvifFault::FaultType>(outside), {}, {}, 0).hasError());
     EXPECT_FALSE(OnvifFault({}, OnvifFault::NoFault, OnvifFault::Tag, OnvifFault::NoProfile, 0).hasError());
 }
 
@@ -147,8 +240,10 @@ TEST(OnvifFault, worksThroughItsInterface)
     error.reset();
     EXPECT_FALSE(error.hasError());
 
-    const std::unique_ptr<ErrorInterface> owned = std::make_unique<OnvifFault>(noProfile, "", 0);
+    std::unique_ptr<ErrorInterface> owned = std::make_unique<OnvifFault>(noProfile, "", 0);
     EXPECT_TRUE(owned->hasError());
+    owned = std::make_unique<WholeError>();
+    EXPECT_EQ(owned->toString(), "whole");
 }
 
 /// Notes in which order its virtual operations stand in the table of a compiler that follows the Itanium C++ ABI.
@@ -164,6 +259,7 @@ TEST(ErrorInterface, hasItsVirtualOperationsInOrder)
     void **table = *reinterpret_cast<void ***>(error);
     EXPECT_EQ(reinterpret_cast<ErrorId>(table[3])(error), 4);
     EXPECT_TRUE(reinterpret_cast<HasError>(table[5])(error));
+    EXPECT_EQ(error->errorId(), 4) << "the last one changes nothing";
     reinterpret_cast<Reset>(table[4])(error);
     EXPECT_FALSE(error->hasError());
 #else

@@ -83,7 +83,7 @@ TEST(FaultSentences, outsideTheFaultTypesAreUnknown)
     EXPECT_EQ(stated(20, 0, 0).toString(), "Unknown Error.");
 }
 
-TEST(FaultSentences, oneTextIsEveryHttpFailureThatHasNone)
+TEST(FaultSentences, threeFaultTypesShareUnknownError)
 {
     EXPECT_EQ(stated(OnvifFault::HttpNotFound, 0, 0).toString(), "Unknown Error.");
     EXPECT_EQ(stated(OnvifFault::UnknownSoapCode, 0, 0).toString(), "Unknown Error.");
@@ -105,6 +105,7 @@ TEST(FaultSentences, ofAFixedUserDependsOnTheRequest)
     EXPECT_EQ(OnvifFault(fixedUserFault(), "SetUser", 0).toString(), otherwise);
     EXPECT_EQ(OnvifFault(fixedUserFault(), "deleteusers", 0).toString(), otherwise);
     EXPECT_EQ(OnvifFault(fixedUserFault(), "DeleteUsersX", 0).toString(), otherwise);
+    EXPECT_EQ(OnvifFault(fixedUserFault(), "XDeleteUsers", 0).toString(), otherwise);
     EXPECT_EQ(OnvifFault(fixedUserFault(), "", 0).toString(), otherwise);
     EXPECT_EQ(OnvifFault(fixedUserFault(), nullptr, 0).toString(), otherwise);
     EXPECT_EQ(stated(4, 8, 51).toString(), otherwise);
@@ -169,13 +170,13 @@ public:
     {
         QByteArray context;
         QByteArray sourceText;
-        bool hasDisambiguation;
+        QByteArray disambiguation; // null if there is none
         int n;
     };
 
     QString translate(const char *context, const char *sourceText, const char *disambiguation, int n) const override
     {
-        requests.push_back({context, sourceText, disambiguation != nullptr, n});
+        requests.push_back({context, sourceText, disambiguation, n});
         return {};
     }
 
@@ -207,7 +208,7 @@ TEST_F(FaultTranslation, asksOnceForEachSentenceInItsContext)
         ASSERT_EQ(translator.requests.size(), 1U) << sentence;
         EXPECT_EQ(last().context, QByteArray("vorn::OnvifFault"));
         EXPECT_EQ(last().sourceText, QByteArray(sentence));
-        EXPECT_FALSE(last().hasDisambiguation) << sentence;
+        EXPECT_TRUE(last().disambiguation.isNull()) << sentence;
         EXPECT_EQ(last().n, -1) << sentence;
     };
     for (const test::FaultSentence &row : test::faultSentences)
@@ -227,7 +228,7 @@ TEST_F(FaultTranslation, trHandsItsArgumentsOn)
     EXPECT_EQ(OnvifFault::tr("%n faults", "note", 3), "3 faults");
     EXPECT_EQ(last().context, QByteArray("vorn::OnvifFault"));
     EXPECT_EQ(last().sourceText, QByteArray("%n faults"));
-    EXPECT_TRUE(last().hasDisambiguation);
+    EXPECT_EQ(last().disambiguation, QByteArray("note"));
     EXPECT_EQ(last().n, 3);
 }
 

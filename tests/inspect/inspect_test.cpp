@@ -139,6 +139,7 @@ TEST(Inspect, takesTheNameOfTheRequest)
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_TRUE(result.output.contains("sentence: \"Client trying to remove fixed user.\"\n"))
         << result.output.toStdString();
+    EXPECT_EQ(inspect({"--action", "DeleteUsers", fixedUser, fixedUser}).output.count("fixed user."), 2);
     EXPECT_EQ(inspect({fixedUser, "--action"}).exitCode, 2);
 }
 
@@ -157,12 +158,40 @@ TEST(Inspect, printsAFaultAsJson)
 
 TEST(Inspect, namesTheFaultsThatAreNotOfSoap)
 {
-    EXPECT_TRUE(inspect({"-"}, "<html><head><title>404</title></head></html>").output.contains("\"HttpNotFound\""));
-    EXPECT_TRUE(inspect({"-"}, "<html><head><title>x</title></head></html>").output.contains("\"UnknownHttpError\""));
-    EXPECT_TRUE(inspect({"-"}, "<Fault><Reason><Text>Unsupported protocol</Text></Reason></Fault>")
-                    .output.contains("\"UnsupportedProtocol\""));
-    EXPECT_TRUE(
-        inspect({"-"}, inBody("<Fault><Code><Value>x</Value></Code></Fault>")).output.contains("\"UnknownSoapCode\""));
+    const auto page = [](const char *title) {
+        return QByteArray("<html><head><title>") + title + "</title></head></html>";
+    };
+    const auto bare = [](const char *text) {
+        return QByteArray("<Fault><Reason><Text>") + text + "</Text></Reason></Fault>";
+    };
+    const std::pair<QByteArray, QByteArray> rows[] = {
+        {page("400"), "HttpBadRequest"},
+        {page("401"), "HttpUnauthorised"},
+        {page("404"), "HttpNotFound"},
+        {page("405"), "HttpMethodNotAllowed"},
+        {page("415"), "HttpUnsupportedMedia"},
+        {page("500"), "UnknownHttpError"},
+        {bare("URL using bad/illegal format or missing URL"), "BadUrl"},
+        {bare("Failure when receiving data from the peer"), "ReceiveFailure"},
+        {bare("Empty reply from Camera"), "EmptyReply"},
+        {bare("Transferred a partial file"), "PartialFile"},
+        {bare("Couldn't resolve host name"), "HostNotResolved"},
+        {bare("Unsupported protocol"), "UnsupportedProtocol"},
+        {bare("else"), "UnknownTransportError"},
+        {inBody("<Fault><Code><Value>x</Value></Code></Fault>"), "UnknownSoapCode"},
+    };
+    for (const auto &[reply, name] : rows) {
+        const QByteArray output = inspect({"-"}, reply).output;
+        EXPECT_TRUE(output.contains("faultType: \"" + name + "\"\n")) << output.toStdString();
+    }
+}
+
+TEST(Inspect, saysWhyAFaultCannotBeClassified)
+{
+    EXPECT_EQ(inspect({"-"}, inBody("<Fault><Code/></Fault>")).output,
+              QByteArray("SOAP fault\n  It has no Code with a Value, as SOAP 1.2 wants it.\n"));
+    EXPECT_EQ(inspect({"-"}, "<Fault><Reason/></Fault>").output,
+              QByteArray("bare fault\n  It has no Reason with a Text.\n"));
 }
 
 TEST(Inspect, printsNothingThatCouldDisturbATerminal)

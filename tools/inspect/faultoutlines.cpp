@@ -1,52 +1,30 @@
 #include "fault/faultcodes.h"
 #include "outlines.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace inspect {
 namespace {
 
 using vorn::OnvifFault;
 namespace faultcodes = vorn::faultcodes;
 
-/// The name of a code of SOAP: the literal that stands for it in a reply, without its colon.
-QString nameOf(std::string_view literal)
+/// The name of a code of SOAP: the literal that stands for it in a reply, without its colon. A code that no reply leads
+/// to has none, and is shown by its number.
+QString nameOf(std::string_view literal, int code)
 {
-    return QString::fromLatin1(literal.data() + 1, qsizetype(literal.size() - 1));
+    return literal.empty() ? QString::number(code)
+                           : QString::fromLatin1(literal.data() + 1, qsizetype(literal.size() - 1));
 }
 
 QString nameOf(OnvifFault::FaultType type)
 {
-    if (const faultcodes::SoapCode *code = faultcodes::find(faultcodes::Rows(faultcodes::soapCodes), type))
-        return nameOf(code->literal);
-
-    struct Name
-    {
-        OnvifFault::FaultType type;
-        const char *name;
-    };
-
-    static const Name names[] = {
-        {OnvifFault::NoFault, "NoFault"},
-        {OnvifFault::HttpBadRequest, "HttpBadRequest"},
-        {OnvifFault::HttpUnauthorised, "HttpUnauthorised"},
-        {OnvifFault::HttpNotFound, "HttpNotFound"},
-        {OnvifFault::HttpMethodNotAllowed, "HttpMethodNotAllowed"},
-        {OnvifFault::HttpUnsupportedMedia, "HttpUnsupportedMedia"},
-        {OnvifFault::BadUrl, "BadUrl"},
-        {OnvifFault::ReceiveFailure, "ReceiveFailure"},
-        {OnvifFault::EmptyReply, "EmptyReply"},
-        {OnvifFault::PartialFile, "PartialFile"},
-        {OnvifFault::HostNotResolved, "HostNotResolved"},
-        {OnvifFault::UnsupportedProtocol, "UnsupportedProtocol"},
-        {OnvifFault::UnknownSoapCode, "UnknownSoapCode"},
-        {OnvifFault::UnknownHttpError, "UnknownHttpError"},
-        {OnvifFault::UnknownTransportError, "UnknownTransportError"},
-    };
-    const auto *const row = std::find_if(std::begin(names), std::end(names),
-                                         [type](const Name &candidate) { return candidate.type == type; });
-    return row != std::end(names) ? QString::fromLatin1(row->name) : QString::number(type);
+    using namespace vorn::faultcodes;
+    if (const SoapCode *code = find(Rows(soapCodes), type))
+        return nameOf(code->literal, type);
+    for (const Rows<TextCode> rows : {Rows(httpCodes), Rows(transportCodes), Rows(otherCodes)}) {
+        if (const TextCode *code = find(rows, type))
+            return QString::fromLatin1(code->name);
+    }
+    return QString::number(type);
 }
 
 } // namespace
@@ -57,9 +35,9 @@ Outline outline(const OnvifFault &fault)
     QString specificName = QStringLiteral("NoSpecific");
     if (const auto *code = faultcodes::find(faultcodes::Rows(faultcodes::soapCodes), fault.faultType)) {
         if (const auto *subcode = faultcodes::find(code->subcodes, fault.subcodeType)) {
-            subcodeName = nameOf(subcode->literal);
+            subcodeName = nameOf(subcode->literal, fault.subcodeType);
             if (const auto *specific = faultcodes::find(subcode->specificCodes, fault.specificType))
-                specificName = nameOf(specific->literal);
+                specificName = nameOf(specific->literal, fault.specificType);
         }
     }
     return Outline::Fields{

@@ -71,8 +71,13 @@ QString Outline::toLines(const Palette &palette, int depth) const
         if (list.empty())
             return QStringLiteral(" none");
         QString lines;
-        for (const Outline &entry : list)
-            lines += lineStart(depth) + QLatin1Char('-') + entry.toLines(palette, depth + 1);
+        for (const Outline &entry : list) {
+            // The first field of an entry stands behind the dash.
+            const QString entryLines = entry.toLines(palette, depth + 1);
+            const QString start = lineStart(depth + 1);
+            lines += lineStart(depth) + QLatin1Char('-');
+            lines += entryLines.startsWith(start) ? QLatin1Char(' ') + entryLines.mid(start.size()) : entryLines;
+        }
         return lines;
     };
     return std::visit(

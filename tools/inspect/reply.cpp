@@ -17,9 +17,17 @@ struct Reader
     Outline (*read)(const QByteArray &bytes);
 };
 
+template <typename Record>
+Outline readRecord(const QByteArray &bytes)
+{
+    return outline(Record(bytes));
+}
+
 const Reader readers[] = {
-    {"GetDeviceInformationResponse",
-     [](const QByteArray &bytes) { return outline(vorn::OnvifDeviceInformation(bytes)); }},
+    {"GetDeviceInformationResponse", readRecord<vorn::OnvifDeviceInformation>},
+    {"GetCapabilitiesResponse", readRecord<vorn::OnvifCapabilities>},
+    {"GetScopesResponse", readRecord<vorn::OnvifScopeMap>},
+    {"ProbeMatches", readRecord<vorn::OnvifCamera>},
 };
 
 Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
@@ -29,7 +37,7 @@ Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
 
     const QString element = body.children.constFirst().name;
     if (element == QLatin1String("Fault"))
-        return {QStringLiteral("SOAP fault"), {}, QStringLiteral("It has no Code, so it is not one of SOAP 1.2.")};
+        return {QStringLiteral("SOAP fault"), {}, QStringLiteral("It has no Code with a Value, as SOAP 1.2 wants it.")};
 
     const auto *const reader = std::find_if(std::begin(readers), std::end(readers), [&](const Reader &candidate) {
         return element == QLatin1String(candidate.element);
@@ -82,7 +90,7 @@ Reply read(const QByteArray &bytes, const char *action)
     if (response.get(QStringLiteral("/Envelope")).valid)
         return {QStringLiteral("SOAP envelope"), {}, QStringLiteral("It has no Body.")};
     if (response.get(QStringLiteral("/Fault")).valid)
-        return {QStringLiteral("bare fault"), {}, QStringLiteral("It has no reason.")};
+        return {QStringLiteral("bare fault"), {}, QStringLiteral("It has no Reason with a Text.")};
     return readOther(fault.xml);
 }
 

@@ -49,7 +49,7 @@ public:
 /// These are faults:
 /// - a SOAP 1.2 fault: a document with "/Envelope/Body/Fault/Code/Value". The codes are told by what stands behind the
 ///   prefix; namespaces play no part. A Sender fault whose reason mentions HTTP is an HTTP failure.
-/// - an HTML error page: a document with "/html/head/title";
+/// - an HTML error page: a document with "/html/head/title". The status is looked for as digits anywhere in the title;
 /// - a bare fault, by which a transport tells that it failed: a document with "/Fault/Reason/Text".
 ///
 /// Everything else is none: a good reply, but also a SOAP 1.1 fault, which has no Code, and bytes that cannot be
@@ -219,10 +219,11 @@ struct VORNSDK_ONVIF_EXPORT OnvifFault : ErrorInterface, OnvifResponseStructure
     /// The class of the fault. NoFault by default.
     FaultType faultType = NoFault;
 
-    /// The first subcode. NoSubcode if there is none, it is unknown or the fault is neither Sender nor Receiver.
+    /// The first subcode. After classification NoSubcode if there is none, it is unknown or the fault is neither Sender
+    /// nor Receiver.
     SubcodeType subcodeType = NoSubcode;
 
-    /// The second subcode. NoSpecific if there is none or it is unknown below this subcode.
+    /// The second subcode. After classification NoSpecific if there is none or it is unknown below this subcode.
     SpecificType specificType = NoSpecific;
 
     /// The name of the request that the reply answers, such as "DeleteUsers"; one sentence depends on it. The text is
@@ -247,7 +248,8 @@ struct VORNSDK_ONVIF_EXPORT OnvifFault : ErrorInterface, OnvifResponseStructure
 
     /// The sentence for the user, translated by the catalogues that the application has installed for the context
     /// "vorn::OnvifFault". The device's own words are never part of it. A code without a sentence gives that of its
-    /// parent code; what is not known at all gives "Unknown Error.".
+    /// parent code. HttpNotFound, UnknownSoapCode, UnknownTransportError and values outside the enumeration share
+    /// "Unknown Error."; errorId() tells them apart.
     QString toString() const override;
 
     /// faultType as a number. The subcodes play no part.

@@ -12,6 +12,10 @@
 
 #include <memory>
 
+namespace pugi {
+struct xml_node_struct;
+}
+
 namespace vorn {
 
 class NodeBuilder;
@@ -123,10 +127,16 @@ public:
     QString getAttribute(const QString &attribute, const QString &path);
 
 private:
+    pugi::xml_node_struct *find(const QString &path);
     NodeBuilder &nodeBuilder();
 
     std::shared_ptr<const XmlDocument> m_document;
     std::unique_ptr<NodeBuilder> m_nodeBuilder; // made by the first query that hands out a node
+
+    // Where the parent of the last path is, as one query often asks for a sibling of what the last one asked for.
+    QString m_lastPath;
+    qsizetype m_parentLength = 0; // of the parent's part of that path
+    pugi::xml_node_struct *m_parent = nullptr;
 };
 
 } // namespace vorn
