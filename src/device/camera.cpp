@@ -55,47 +55,82 @@ void readAddresses(OnvifCamera &camera, QStringView addressUrls)
     }
 }
 
-void readScopes(QMultiMap<QString, QString> &scopes, QStringView scopeUris)
+/// What a type scope says of a device; null if it is nothing that counts.
+QString kindOf(QStringView typeScope)
 {
-    const QString typeKey = u"type"_s;
-    const QString nameKey = u"name"_s;
-    bool hasVideo = false;
-    const QList<QStringView> uris = scopeUris.split(u' ');
-    for (const QStringView uri : uris) {
-        const QString category = part(uri, categoryPart).toString().toLower();
-        const QStringView first = part(uri, valuePart);
-        QString value;
-        if (category == typeKey) {
-            const QString type = first.toString().toLower();
-            if (type == "video_encoder"_L1 || type == "network_video_transmitter"_L1) {
-                if (!hasVideo) // devices say both
-                    value = u"Video"_s;
-                hasVideo = true;
-            } else if (type == "audio_encoder"_L1) {
-                value = u"Audio"_s;
-            } else if (type == "ptz"_L1) {
-                value = u"PTZ"_s;
-            } else if (type == "video_analytic"_L1) {
-                value = u"Analytics"_s;
-            }
-        } else if (category == nameKey) {
-            if (first != namelessCamera)
-                scopes.replace(nameKey, percentDecoded(first));
-        } else if (category == "location"_L1) {
-            value = first.toString();
-        } else if (category == "profile"_L1) {
-            if (uri.endsWith("Streaming"_L1))
-                scopes.insert(typeKey, u"ProfileS"_s);
-        } else if (category == "hardware"_L1) {
-            const QString name = scopes.value(nameKey);
-            value = partsFrom(uri, valuePart).toString();
-            if (name.isEmpty() || name == namelessCamera)
-                scopes.replace(nameKey, value);
-        }
-        if (!value.isEmpty())
-            scopes.insert(category, value);
-    }
+    const QString type = typeScope.toString().toLower();
+    if (type == "video_encoder"_L1 || type == "network_video_transmitter"_L1)
+        return u"Video"_s;
+    if (type == "audio_encoder"_L1)
+        return u"Audio"_s;
+    if (type == "ptz"_L1)
+        return u"PTZ"_s;
+    if (type == "video_analytic"_L1)
+        return u"Analytics"_s;
+    return {};
 }
+
+/// Reads the scopes of a ProbeMatch one by one, as they hang together.
+class ScopeReader
+{
+public:
+    explicit ScopeReader(QMultiMap<QString, QString> &scopes)
+        : m_scopes(scopes)
+    {
+    }
+
+    void read(QStringView uri)
+    {
+        const QString category = part(uri, categoryPart).toString().toLower();
+        const QStringView value = part(uri, valuePart);
+        if (category == m_typeKey)
+            readType(value);
+        else if (category == m_nameKey)
+            readName(value);
+        else if (category == "location"_L1)
+            insert(category, value);
+        else if (category == "profile"_L1 && uri.endsWith("Streaming"_L1))
+            m_scopes.insert(m_typeKey, u"ProfileS"_s);
+        else if (category == "hardware"_L1)
+            readHardware(category, partsFrom(uri, valuePart));
+    }
+
+private:
+    void insert(const QString &key, QStringView value)
+    {
+        if (!value.isEmpty())
+            m_scopes.insert(key, value.toString());
+    }
+
+    void readType(QStringView type)
+    {
+        const QString kind = kindOf(type);
+        const bool isVideo = kind == "Video"_L1;
+        if (!(isVideo && m_hasVideo)) // devices say it in two ways
+            insert(m_typeKey, kind);
+        m_hasVideo = m_hasVideo || isVideo;
+    }
+
+    void readName(QStringView name)
+    {
+        if (name != namelessCamera)
+            m_scopes.replace(m_nameKey, percentDecoded(name));
+    }
+
+    /// The hardware stands for the name until there is one.
+    void readHardware(const QString &category, QStringView hardware)
+    {
+        const QString name = m_scopes.value(m_nameKey);
+        if (name.isEmpty() || name == namelessCamera)
+            m_scopes.replace(m_nameKey, hardware.toString());
+        insert(category, hardware);
+    }
+
+    const QString m_typeKey = u"type"_s;
+    const QString m_nameKey = u"name"_s;
+    QMultiMap<QString, QString> &m_scopes;
+    bool m_hasVideo = false;
+};
 
 } // namespace
 
@@ -110,7 +145,10 @@ OnvifCamera::OnvifCamera(const QByteArray &bytes)
     if (!valid)
         return;
     readAddresses(*this, *addressUrls);
-    readScopes(scopes, *scopeUris);
+    ScopeReader scopeReader(scopes);
+    const QList<QStringView> uris = QStringView(*scopeUris).split(u' ');
+    for (const QStringView uri : uris)
+        scopeReader.read(uri);
     addresses.sort();
 }
 

@@ -85,7 +85,7 @@ XmlResponseNode XmlResponse::get(const XmlResponseNode &node, const QString &pat
 QList<XmlResponseNode> XmlResponse::getAll(const QString &path)
 {
     QList<XmlResponseNode> nodes;
-    pugi::xml_node element = pugi::xml_node(find(path));
+    auto element = pugi::xml_node(find(path));
     while (element) {
         nodes.append(nodeBuilder().node(element));
         element = firstNamed(element.next_sibling(), nodes.constFirst().name);
