@@ -89,9 +89,9 @@ bool runAll(std::ostream &output)
            << "  " << std::left << std::setw(14) << "against" << std::right << std::setw(12) << "us" << std::setw(9)
            << "ratio" << std::setw(8) << "limit" << '\n'
            << std::fixed;
-    bool good = true;
+    bool good = !reporter.medians.empty();
     for (const Comparison &comparison : comparisons()) {
-        if (reporter.medians.count(comparison.name) == 0)
+        if (reporter.medians.count(comparison.name) == 0 || reporter.medians.count(comparison.yardstickName()) == 0)
             continue; // filtered out
         const double time = reporter.medians[comparison.name];
         const double yardstick = reporter.medians[comparison.yardstickName()];
@@ -104,6 +104,8 @@ bool runAll(std::ostream &output)
                << (isOver ? "  OVER THE LIMIT" : "") << '\n';
         good = good && !isOver;
     }
+    if (!good && reporter.medians.empty())
+        output << "Nothing was measured: medians need more than one repetition and a filter that matches.\n";
     return good;
 }
 

@@ -3,6 +3,7 @@
 #include <QtCore/QByteArrayView>
 #include <QtCore/QStringDecoder>
 
+#include <algorithm>
 #include <initializer_list>
 #include <optional>
 #include <string_view>
@@ -25,11 +26,29 @@ std::optional<QStringConverter::Encoding> detectedEncoding(QByteArrayView bytes)
     return std::nullopt;
 }
 
+/// Tells the XML declaration from a processing instruction such as <?xml-stylesheet?>.
+bool startsWithDeclaration(QByteArrayView reply)
+{
+    return reply.startsWith(declarationStart) && reply.size() > declarationStart.size()
+           && QByteArrayView(" \t\r\n").contains(reply[declarationStart.size()]);
+}
+
+/// Whether \a name has the form that XML prescribes. Others must not reach a converter, which may take them for the
+/// path of a file.
+bool isEncodingName(QByteArrayView name)
+{
+    const auto isAllowed = [](char c) {
+        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '.' || c == '_'
+               || c == '-';
+    };
+    return std::all_of(name.begin(), name.end(), isAllowed);
+}
+
 /// The encoding's name in the XML declaration; empty if there is none.
 QByteArrayView declaredEncoding(QByteArrayView bytes)
 {
     const QByteArrayView reply = bytes.trimmed();
-    if (!reply.startsWith(declarationStart))
+    if (!startsWithDeclaration(reply))
         return {};
     const QByteArrayView declaration = reply.first(qMax(reply.indexOf('>'), qsizetype(0)));
 
@@ -53,6 +72,8 @@ std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
 {
     const QByteArrayView declared = declaredEncoding(bytes);
     if (declared.isEmpty() || declared.compare("UTF-8", Qt::CaseInsensitive) == 0)
+        return std::nullopt;
+    if (!isEncodingName(declared))
         return std::nullopt;
     const QByteArray name = declared.toByteArray();
     const auto encoding = QStringConverter::encodingForName(name.constData());

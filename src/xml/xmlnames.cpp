@@ -17,7 +17,7 @@ bool equals(const char *utf8, QStringView text)
     for (const QChar &character : text) {
         if (character.unicode() >= 0x80)
             return toQString(utf8) == QStringView(&character, text.end());
-        if (*utf8 != static_cast<char>(character.unicode()))
+        if (*utf8 == '\0' || *utf8 != static_cast<char>(character.unicode()))
             return false;
         ++utf8;
     }

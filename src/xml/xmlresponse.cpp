@@ -145,10 +145,11 @@ pugi::xml_node_struct *XmlResponse::find(const QString &path)
     const QStringView parentPath = view.chopped(name.size() + 1);
     pugi::xml_node parent = m_document->root();
     if (!parentPath.isEmpty()) {
-        if (parentPath != QStringView(m_lastPath).first(m_parentLength)) {
+        if (parentPath != QStringView(m_parentPath.data(), m_parentPathSize)) {
             m_parent = m_document->find(parentPath).internal_object();
-            m_lastPath = path;
-            m_parentLength = parentPath.size();
+            const bool fits = parentPath.size() <= qsizetype(m_parentPath.size());
+            m_parentPathSize = fits ? parentPath.size() : 0;
+            std::copy_n(parentPath.utf16(), m_parentPathSize, m_parentPath.begin());
         }
         parent = pugi::xml_node(m_parent);
     }

@@ -56,7 +56,10 @@ private:
     {
         QStringDecoder decoder = valueDecoder();
         const qsizetype size = m_characters.size();
-        m_characters.resize(size + decoder.requiredSpace(utf8.size()));
+        const qsizetype needed = size + decoder.requiredSpace(utf8.size());
+        if (needed > m_characters.capacity())
+            m_characters.reserve(qMax(needed, 2 * m_characters.capacity())); // else each piece would copy all before it
+        m_characters.resize(needed);
         const QChar *end = decoder.appendToBuffer(m_characters.data() + size, utf8);
         m_characters.resize(end - m_characters.data());
     }

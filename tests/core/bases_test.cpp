@@ -13,6 +13,10 @@ using vorn::OnvifResponseStructure;
 static_assert(std::has_virtual_destructor_v<OnvifDataStructure>);
 static_assert(!std::is_polymorphic_v<OnvifResponseStructure>);
 
+// The assignment takes its argument by value.
+static_assert(std::is_same_v<decltype(&OnvifDataStructure::operator=),
+                             OnvifDataStructure &(OnvifDataStructure::*)(OnvifDataStructure)>);
+
 namespace {
 
 struct Record : OnvifDataStructure

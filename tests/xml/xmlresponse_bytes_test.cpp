@@ -46,7 +46,8 @@ TEST(XmlResponseEncoding, unicodeIsRecognisedWithAndWithoutByteOrderMark)
         for (const bool mark : {true, false}) {
             expectName(encoded(documentWithName({}), encoding, mark), what);
             expectName(encoded(documentWithName("<?xml version='1.0'?>"), encoding, mark), what);
-            expectName(encoded(documentWithName("\n<?xml version='1.0'?>\n"), encoding, mark), what);
+            for (const char *blank : {"\n", "\r\n", " ", "\t"})
+                expectName(encoded(documentWithName(QString(blank) + "<?xml version='1.0'?>\n"), encoding, mark), what);
         }
     }
 }
@@ -114,6 +115,8 @@ TEST(XmlResponseEncoding, uselessDeclarationMeansUtf8)
              "<?xml version='1.0' encoding='UTF-32'?>",
              "<!-- <?xml encoding='ISO-8859-1'?> -->",
              "<?pi encoding='ISO-8859-1'?>",
+             "<?xml-stylesheet encoding='ISO-8859-1'?>",
+             "<?xml version='1.0' encoding='ISO-8859-1,swaplfnl'?>",
          }) {
         XmlResponse response(declaration + QByteArray("<a>\xC3\xA9</a>"), "");
         EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9")) << declaration;
@@ -172,11 +175,12 @@ TEST(XmlResponseBytes, nulsBesideTheDocumentElementAreText)
     EXPECT_FALSE(XmlResponse(QByteArray("<a>1</a>\0\n", 10), "").get("/a").valid);
 }
 
-TEST(XmlResponseBytes, referenceToNoCharacterEndsNothing)
+TEST(XmlResponseBytes, referenceToNoCharacterHarmsItsOwnValueOnly)
 {
     XmlResponse response("<r><a>x&#0;y</a><b>&#xD800;</b><c>&#x110000;</c><d>&#99999999999;</d><e>ok</e></r>", "/r");
     for (const char *path : {"/a", "/b", "/c", "/d", "/e"})
         EXPECT_EQ(response.getText(path), response.get(path).element.text()) << path;
+    EXPECT_EQ(response.getText("/a"), "x") << "a reference to NUL ends its value";
     EXPECT_EQ(response.getText("/e"), "ok");
 }
 

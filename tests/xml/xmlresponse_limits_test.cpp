@@ -174,6 +174,10 @@ TEST(XmlResponseSize, ofManySiblingsAttributesAndTextsIsRead)
 
     XmlResponse pieces("<a>" + QByteArray("x<!---->").repeated(100000) + "</a>", "");
     EXPECT_EQ(pieces.getText("/a").size(), 100000);
+    // Minutes, if each piece copied all before it.
+    XmlResponse digits("<a>" + QByteArray("0<!---->").repeated(2000000) + "7</a>", "");
+    EXPECT_EQ(digits.getUInt("/a"), 7U);
+    EXPECT_FALSE(digits.getBool("/a"));
 }
 
 TEST(XmlResponseTruncation, atEveryLengthAnswersAllQueries)

@@ -165,8 +165,10 @@ TEST(XmlResponsePath, matchesWholeNamesOnly)
 
 TEST(XmlResponsePath, withAPrefixIsMissing)
 {
-    XmlResponse response("<tt:a><tt:b/></tt:a>", "/a");
+    XmlResponse response("<tt:a><tt:b/><x:y:c/></tt:a>", "/a");
     EXPECT_FALSE(response.get("/tt:b").valid);
+    EXPECT_EQ(response.get("").children[1].name, "y:c") << "the prefix ends at the first colon";
+    EXPECT_TRUE(response.get("/y:c").valid);
 }
 
 TEST(XmlResponsePath, notOfThePathFormIsMissing)
@@ -179,6 +181,49 @@ TEST(XmlResponsePath, notOfThePathFormIsMissing)
     EXPECT_FALSE(response.get("/b//c").valid);
     EXPECT_FALSE(XmlResponse("<a><b/></a>", "a").get("/b").valid);
     EXPECT_FALSE(XmlResponse("<a><b/></a>", "/a/").get("/b").valid);
+}
+
+TEST(XmlResponsePath, aNulMatchesNoName)
+{
+    XmlResponse response("<aaaaaaaa k='1'><b>2</b></aaaaaaaa>", "");
+    const QString tail(QChar(u'\0'));
+    EXPECT_FALSE(response.get("/aaaaaaaa" + tail).valid);
+    EXPECT_FALSE(response.get("/aaaaaaaa" + tail + ">" + tail + "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx").valid);
+    EXPECT_TRUE(response.getAttribute("k" + tail, "/aaaaaaaa").isNull());
+    EXPECT_TRUE(response.getAttribute(tail, "/aaaaaaaa").isNull());
+    EXPECT_FALSE(XmlResponse("<a><b/></a>", "/a" + tail).get("/b").valid);
+}
+
+TEST(XmlResponsePath, oneQueryDoesNotDependOnTheLast)
+{
+    XmlResponse response("<r><a><x>1</x></a><b><x>2</x></b><ab><x>3</x></ab></r>", "/r");
+    EXPECT_EQ(response.getText("/a/x"), "1");
+    EXPECT_EQ(response.getText("/b/x"), "2");
+    EXPECT_EQ(response.getText("/c/x"), QString());
+    EXPECT_EQ(response.getText("/a/x"), "1");
+    EXPECT_EQ(response.getText("/ab/x"), "3");
+    EXPECT_EQ(response.getText("/x"), QString());
+    EXPECT_EQ(response.getText("/b/y"), QString());
+    EXPECT_EQ(response.getText("/b/x"), "2");
+}
+
+TEST(XmlResponsePath, textOfThePathMayChangeBetweenQueries)
+{
+    XmlResponse response("<r><a><x>1</x></a><b><x>2</x></b></r>", "/r");
+    QChar path[] = {u'/', u'a', u'/', u'x'};
+    EXPECT_EQ(response.getText(QString::fromRawData(path, 4)), "1");
+    path[1] = u'b';
+    EXPECT_EQ(response.getText(QString::fromRawData(path, 4)), "2");
+}
+
+TEST(XmlResponsePath, longParentsAreFound)
+{
+    const QString name(60, u'n');
+    const QByteArray utf8 = name.toUtf8();
+    XmlResponse response("<r><" + utf8 + "><x>1</x><y>2</y></" + utf8 + "><b><x>3</x></b></r>", "/r");
+    EXPECT_EQ(response.getText('/' + name + "/x"), "1");
+    EXPECT_EQ(response.getText("/b/x"), "3");
+    EXPECT_EQ(response.getText('/' + name + "/y"), "2");
 }
 
 TEST(XmlResponsePath, namesBeyondAsciiMatch)

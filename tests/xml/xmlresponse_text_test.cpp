@@ -47,6 +47,8 @@ const TextRow wellFormedTexts[] = {
     {"\n\t ", u""},
     {"&#32;", u""},
     {"&#10;&#x20;", u""},
+    {"&#13;", u""},
+    {"&#9;", u""},
     {" &#32;x", u"  x"},
     {"a\r\nb\rc\nd", u"a\nb\nc\nd"},
     {"a&#13;b", u"a\rb"},

@@ -23,7 +23,7 @@ namespace {
 
 const QByteArray reply = "<r token='t'><a>1</a><a>2</a></r>";
 
-/// Only the first, as an expectation of one fact each would say no more.
+/// Whether all queries answer for the reply.
 bool answers(XmlResponse &response)
 {
     return response.getText("/a") == "1" && response.getAll("/a").size() == 2
@@ -124,7 +124,8 @@ TEST(XmlResponseValue, selfAssignmentChangesNothing)
 
 TEST(XmlResponseValue, copiesAreReadOnSeveralThreadsAtOnce)
 {
-    const XmlResponse source(reply, "/r");
+    XmlResponse source(reply, "/r");
+    ASSERT_TRUE(answers(source)); // so that there is something that copies must not share
     std::vector<std::thread> threads;
     std::vector<int> good(4);
     for (int &result : good) {
@@ -136,6 +137,30 @@ TEST(XmlResponseValue, copiesAreReadOnSeveralThreadsAtOnce)
     for (std::thread &thread : threads)
         thread.join();
     EXPECT_EQ(good, std::vector<int>({100, 100, 100, 100}));
+}
+
+TEST(XmlResponseValue, assignmentForgetsWhereThePathsLed)
+{
+    const QByteArray other = "<r><a><b>other</b></a></r>";
+    XmlResponse copied(reply, "/r");
+    XmlResponse moved(reply, "/r");
+    ASSERT_FALSE(copied.get("/a/b").valid);
+    ASSERT_FALSE(moved.get("/a/b").valid);
+    const XmlResponse source(other, "/r");
+    copied = source;
+    moved = XmlResponse(other, "/r");
+    EXPECT_EQ(copied.getText("/a/b"), "other");
+    EXPECT_EQ(moved.getText("/a/b"), "other");
+}
+
+TEST(XmlResponseValue, movedResponseKeepsAnswering)
+{
+    XmlResponse source("<r><a><b>1</b><c>2</c></a></r>", "/r");
+    ASSERT_EQ(source.getText("/a/b"), "1");
+    XmlResponse target(std::move(source));
+    EXPECT_EQ(target.getText("/a/c"), "2");
+    source = XmlResponse("<r><a><b>3</b></a></r>", "/r");
+    EXPECT_EQ(source.getText("/a/b"), "3");
 }
 
 TEST(XmlResponseAllocations, noneForADefaultOrEmptyResponse)

@@ -38,6 +38,12 @@ void complain(const QString &text)
     print(stderr, QLatin1String("onvif-inspect: ") + text + QLatin1Char('\n'));
 }
 
+void complainAbout(const QFile &file)
+{
+    complain(QStringLiteral("cannot read \"%1\": %2. Check the name and the permissions.")
+                 .arg(inspect::printable(file.fileName()), file.errorString()));
+}
+
 inspect::Palette paletteForOutput()
 {
 #ifdef Q_OS_UNIX
@@ -123,13 +129,18 @@ int main(int argc, char **argv)
     for (const QString &fileName : fileNames) {
         QFile file(fileName);
         if (!open(file)) {
-            complain(QStringLiteral("cannot read \"%1\": %2. Check the name and the permissions.")
-                         .arg(fileName, file.errorString()));
+            complainAbout(file);
             exitCode = CannotRun;
             continue;
         }
-        const inspect::Reply reply = inspect::read(file.readAll(), actionName.constData());
-        const QString heading = fileNames.size() > 1 ? fileName + QLatin1String(": ") : QString();
+        const QByteArray bytes = file.readAll();
+        if (file.error() != QFileDevice::NoError) {
+            complainAbout(file);
+            exitCode = CannotRun;
+            continue;
+        }
+        const inspect::Reply reply = inspect::read(bytes, actionName.constData());
+        const QString heading = fileNames.size() > 1 ? inspect::printable(fileName) + QLatin1String(": ") : QString();
         print(stdout, parser.isSet(json) ? asJson(fileName, reply) : asOutline(heading, reply, palette));
         exitCode = std::max<int>(exitCode, reply.record && !reply.isFault ? Read : NothingRead);
     }

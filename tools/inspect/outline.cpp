@@ -120,29 +120,32 @@ QJsonValue Outline::toJson() const
 
 QString printable(const QString &text)
 {
+    const auto isHarmless = [](char32_t character) {
+        switch (QChar::category(character)) {
+        case QChar::Other_Control:
+        case QChar::Other_Format:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            return false;
+        default:
+            return true;
+        }
+    };
     QString result;
     result.reserve(text.size());
-    for (const QChar character : text) {
-        switch (character.unicode()) {
-        case u'\n':
+    for (const char32_t character : text.toUcs4()) {
+        if (character == U'\n')
             result += QLatin1String("\\n");
-            break;
-        case u'\r':
+        else if (character == U'\r')
             result += QLatin1String("\\r");
-            break;
-        case u'\t':
+        else if (character == U'\t')
             result += QLatin1String("\\t");
-            break;
-        case u'"':
-        case u'\\':
-            result += QLatin1Char('\\') + character;
-            break;
-        default:
-            if (character.category() == QChar::Other_Control || character.category() == QChar::Other_Format)
-                result += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
-            else
-                result += character;
-        }
+        else if (character == U'"' || character == U'\\')
+            result += QLatin1Char('\\') + QChar(static_cast<char16_t>(character));
+        else if (isHarmless(character))
+            result += QString::fromUcs4(&character, 1);
+        else
+            result += QStringLiteral("\\u%1").arg(static_cast<uint>(character), 4, 16, QLatin1Char('0'));
     }
     return result;
 }

@@ -14,7 +14,6 @@ namespace vorn {
 /// Base of the data records: knows whether the record is null and can print it.
 struct VORNSDK_ONVIF_EXPORT OnvifDataStructure
 {
-public:
     /// A null record.
     OnvifDataStructure();
 

@@ -10,6 +10,7 @@
 #include <QtCore/QString>
 #include <QtXml/QDomElement>
 
+#include <array>
 #include <memory>
 
 namespace pugi {
@@ -61,8 +62,8 @@ struct VORNSDK_UTIL_EXPORT XmlResponseNode
 /// Paths without a node start at the root path that the constructor was given, and from there at the document element.
 /// Paths with a node start at that node: their first component is the node's own name.
 ///
-/// No operation fails, throws or reports. Bytes that are no well-formed document give an object on which every path is
-/// missing. These are such bytes:
+/// No operation fails, throws or reports. Bytes that cannot be parsed give an object on which every path is missing.
+/// These are such bytes:
 /// - what the parser refuses, such as tags that do not match;
 /// - more or fewer than one document element;
 /// - text beside the document element;
@@ -70,9 +71,10 @@ struct VORNSDK_UTIL_EXPORT XmlResponseNode
 ///
 /// Tolerated are ill-formed UTF-8 (each bad sequence reads as U+FFFD), NUL characters (read as U+FFFD, ignored at the
 /// end of the reply), white space before the XML declaration, a repeated attribute (the first counts) and references
-/// to unknown entities (they stay as written). Entities that a DTD declares are never expanded, and nothing outside the
-/// bytes is ever opened. A byte order mark decides the encoding, else the XML declaration; without either, or if the
-/// declaration cannot be right, the bytes are read as UTF-8.
+/// to unknown entities (they stay as written); a reference to the character 0 ends its value. Entities that a DTD
+/// declares are never expanded, and nothing outside the bytes is ever opened. A byte order mark decides the encoding,
+/// or the zero bytes of UTF-16 and UTF-32, else the XML declaration; without any of these, or if the declaration cannot
+/// be right, the bytes are read as UTF-8.
 ///
 /// Copies share the parsed document, which never changes. Each object belongs to one thread at a time; copies of one
 /// object may be used on different threads at once.
@@ -134,8 +136,9 @@ private:
     std::unique_ptr<NodeBuilder> m_nodeBuilder; // made by the first query that hands out a node
 
     // Where the parent of the last path is, as one query often asks for a sibling of what the last one asked for.
-    QString m_lastPath;
-    qsizetype m_parentLength = 0; // of the parent's part of that path
+    // The path is kept as a copy in place: a query allocates nothing, and the caller's text may be gone by the next.
+    std::array<char16_t, 48> m_parentPath = {};
+    qsizetype m_parentPathSize = 0;
     pugi::xml_node_struct *m_parent = nullptr;
 };
 
