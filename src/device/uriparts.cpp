@@ -26,9 +26,10 @@ QStringView part(QStringView uri, int index)
 
 QString percentDecoded(QStringView part)
 {
-    // The way through UTF-8 changes nothing in well-formed text, but that it drops a byte order mark.
-    const bool isDecoded = !part.contains(u'%') && part.isValidUtf16() && !part.startsWith(QChar::ByteOrderMark);
-    return isDecoded ? part.toString() : QUrl::fromPercentEncoding(part.toUtf8());
+    const auto staysAsItIs = [](QChar character) { return character.unicode() < 0x80 && character != u'%'; };
+    if (std::all_of(part.begin(), part.end(), staysAsItIs)) // nearly always, and cheaper
+        return part.toString();
+    return QUrl::fromPercentEncoding(part.toUtf8());
 }
 
 } // namespace vorn

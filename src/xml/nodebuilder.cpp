@@ -44,9 +44,10 @@ void NodeBuilder::setAttributes(QDomElement &element, pugi::xml_node source)
 
 void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
 {
-    const auto children = source.children();
-    node.children.reserve(std::count_if(children.begin(), children.end(),
-                                        [](pugi::xml_node child) { return child.type() == pugi::node_element; }));
+    qsizetype elementCount = 0;
+    for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling())
+        elementCount += child.type() == pugi::node_element ? 1 : 0;
+    node.children.reserve(elementCount);
 
     if (isCharacterData(pugi::node_pcdata, source.value()))
         node.element.appendChild(m_document.createTextNode(toQString(source.value())));

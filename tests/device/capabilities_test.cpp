@@ -381,6 +381,22 @@ TEST(OnvifCapabilities, areEmptyWithoutAGoodReply)
     EXPECT_EQ(filledFields(OnvifCapabilities()), QStringList());
 }
 
+TEST(OnvifCapabilities, areReadOrEmptyAtEveryLengthWithAnyPrefix)
+{
+    for (const char *namePrefix : {"", "tds:", "undeclared:"}) {
+        const QByteArray p(namePrefix);
+        const QByteArray reply = "<" + p + "Envelope><" + p + "Body><" + p + "GetCapabilitiesResponse><" + p
+                                 + "Capabilities><" + p + "Media><" + p + "XAddr>m</" + p + "XAddr></" + p + "Media></"
+                                 + p + "Capabilities></" + p + "GetCapabilitiesResponse></" + p + "Body></" + p
+                                 + "Envelope>";
+        for (qsizetype size = 0; size <= reply.size(); ++size) {
+            EXPECT_EQ(filledFields(OnvifCapabilities(reply.first(size))),
+                      size == reply.size() ? QStringList("/Media/XAddr") : QStringList())
+                << namePrefix << size;
+        }
+    }
+}
+
 TEST(OnvifCapabilities, defaultTakesNothingFromTheHeap)
 {
     const test::AllocationCounter allocations;

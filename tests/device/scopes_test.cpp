@@ -278,6 +278,20 @@ TEST(OnvifScopeMapFixedValue, missingKeyIsTheCallersError)
 #endif
 }
 
+TEST(OnvifScopeMap, isReadOrEmptyAtEveryLengthWithAnyPrefix)
+{
+    for (const char *namePrefix : {"", "tds:", "undeclared:"}) {
+        const QByteArray p(namePrefix);
+        const QByteArray reply = "<" + p + "Envelope><" + p + "Body><" + p + "GetScopesResponse><" + p + "Scopes><" + p
+                                 + "ScopeDef>Fixed</" + p + "ScopeDef><" + p + "ScopeItem>onvif://x/name/n</" + p
+                                 + "ScopeItem></" + p + "Scopes></" + p + "GetScopesResponse></" + p + "Body></" + p
+                                 + "Envelope>";
+        for (qsizetype size = 0; size <= reply.size(); ++size)
+            EXPECT_EQ(OnvifScopeMap(reply.first(size)).size(), size == reply.size() ? 1 : 0) << namePrefix << size;
+        EXPECT_EQ(OnvifScopeMap(reply).value("name").type, OnvifScope::Fixed) << namePrefix;
+    }
+}
+
 TEST(OnvifScopeMap, isCopiedMovedAndAssigned)
 {
     const OnvifScopeMap source(replyWith(scopeElement("Fixed", prefix + "name/n")));
