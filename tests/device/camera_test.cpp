@@ -79,6 +79,7 @@ TEST(OnvifCamera, isMadeFromAnAddressAsItStands)
     EXPECT_TRUE(camera.isValid());
     EXPECT_EQ(camera.capture, capture);
     EXPECT_EQ(camera.index, -1);
+    EXPECT_TRUE(camera.xml.isEmpty());
     EXPECT_EQ(OnvifCamera(QString(), {}).addresses, QStringList(QString()));
 }
 
@@ -143,6 +144,8 @@ TEST(OnvifCameraProbeMatch, isValidWithEmptyAddressesAndScopes)
     EXPECT_TRUE(camera.isValid());
     EXPECT_TRUE(camera.addresses.isEmpty());
     EXPECT_TRUE(camera.scopes.isEmpty());
+    EXPECT_TRUE(camera.capture.isNull());
+    EXPECT_EQ(camera.index, -1);
 }
 
 TEST(OnvifCameraProbeMatch, otherMessagesAreNotValid)
@@ -191,6 +194,7 @@ TEST(OnvifCameraAddresses, linkLocalOnesKeepDocumentOrder)
 
 TEST(OnvifCameraAddresses, duplicatesStay)
 {
+    EXPECT_EQ(withAddresses("http://169.254.1.1/a http://169.254.1.1/b").linkLocalAddresses.size(), 2);
     EXPECT_EQ(withAddresses("http://10.0.0.1/a http://10.0.0.1/b").addresses, QStringList({"10.0.0.1", "10.0.0.1"}));
 }
 
@@ -325,6 +329,20 @@ TEST(OnvifCameraScopes, nameAndHardwareMayComeInAnyOrder)
     EXPECT_EQ(factsOf(scopes({"hardware/H", "name/networkcamera"})), nameless);
     EXPECT_EQ(factsOf(scopes({"name/networkcamer%61", "hardware/H"})), nameless) << "a stored name is compared too";
     EXPECT_EQ(factsOf(scopes({"name/", "hardware/H"})), nameless);
+}
+
+TEST(OnvifCameraScopes, anEmptyNameOverwritesToo)
+{
+    EXPECT_EQ(factsOf(scopes({"hardware/H", "name/"})), Facts({{"hardware", "H"}, {"name", ""}}));
+    EXPECT_EQ(factsOf(scopes({"name/a", "name/"})), Facts({{"name", ""}}));
+}
+
+TEST(OnvifCameraScopes, caseOfCategoryAndKindDoesNotMatter)
+{
+    EXPECT_EQ(factsOf(scopes({"HARDWARE/X"})), Facts({{"hardware", "X"}, {"name", "X"}}));
+    EXPECT_EQ(factsOf(scopes({"type/Video_Encoder"})), Facts({{"type", "Video"}}));
+    EXPECT_EQ(factsOf(scopes({"type/AUDIO_ENCODER"})), Facts({{"type", "Audio"}}));
+    EXPECT_EQ(factsOf(scopes({"type/Video_Analytic"})), Facts({{"type", "Analytics"}}));
 }
 
 TEST(OnvifCameraScopes, otherCategoriesLeaveNoTrace)

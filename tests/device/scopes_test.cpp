@@ -222,6 +222,7 @@ TEST(OnvifScopeMap, keysAreNotDecoded)
         replyWith(scopeElement("Fixed", prefix + "my%20key/v") + scopeElement("Fixed", prefix + "Name/v")));
     EXPECT_EQ(scopes.keys(), QStringList({"Name", "my%20key"}));
     EXPECT_EQ(scopes.value("my%20key").key, "my key");
+    EXPECT_EQ(scopes.fixedValue("my%20key").value, "v");
 }
 
 TEST(OnvifScopeMap, scopeWithoutUriHasTheEmptyKey)
