@@ -12,11 +12,9 @@ using namespace Qt::StringLiterals;
 
 constexpr int defaultPort = 80;
 
-// The parts of the URL of a service and of the URI of a scope.
+// The parts of the URL of a service.
 constexpr int schemePart = 0;
 constexpr int hostPart = 2;
-constexpr int categoryPart = 3;
-constexpr int valuePart = 4;
 
 /// The name of a device that nobody has given a name to.
 constexpr auto namelessCamera = "networkcamera"_L1;

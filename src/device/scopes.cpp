@@ -9,8 +9,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int categoryPart = 3;
-
 OnvifScope::Type typeByDefinition(const QString &definition)
 {
     if (definition == "Fixed"_L1)
@@ -34,7 +32,7 @@ OnvifScope::OnvifScope(Type scopeType, const QString &scopeUri)
     , type(scopeType)
     , uri(scopeUri)
     , key(percentDecoded(part(uri, categoryPart)))
-    , value(percentDecoded(partsFrom(uri, categoryPart + 1)))
+    , value(percentDecoded(partsFrom(uri, valuePart)))
 {
 }
 

@@ -33,8 +33,8 @@ bool startsWithDeclaration(QByteArrayView reply)
            && QByteArrayView(" \t\r\n").contains(reply[declarationStart.size()]);
 }
 
-/// Whether \a name has the form that XML prescribes. Others must not reach a converter, which may take them for the
-/// path of a file.
+/// Whether \a name is made of the characters that XML allows in it. Others must not reach a converter, which may take
+/// them for the path of a file.
 bool isEncodingName(QByteArrayView name)
 {
     const auto isAllowed = [](char c) {

@@ -86,16 +86,28 @@ TEST_P(Samples, readTheSameByEveryRoad)
     }
 }
 
-TEST_P(Samples, readAsQtsDomReadsThem)
+/// False if there is nothing to compare with: Qt refuses the sample, or reads more into it, such as entities.
+bool compareWithQtsDom(const test::Sample &sample)
 {
     QDomDocument plain;
-    const QByteArray bytes = GetParam().bytes();
-    const bool takenByQt =
-        !bytes.contains("encoding=\"GB2312\"") && plain.setContent(bytes) && plain.doctype().isNull();
+    const QByteArray bytes = sample.bytes();
+    const bool isComparable = !bytes.contains("encoding=\"GB2312\"") && !bytes.contains("<!DOCTYPE");
+    const bool takenByQt = isComparable && plain.setContent(bytes);
     if (!takenByQt)
-        return; // Qt refuses what is not well-formed; there is nothing to compare with
+        return false;
     XmlResponse response(bytes, QString());
     expectAgreement(response, plain.documentElement(), '/' + localName(plain.documentElement()));
+    return true;
+}
+
+TEST(SamplesFolder, readsAsQtsDomReadsIt)
+{
+    int compared = 0;
+    for (const test::Sample &sample : test::allSamples()) {
+        SCOPED_TRACE(sample.path);
+        compared += compareWithQtsDom(sample) ? 1 : 0;
+    }
+    EXPECT_GE(compared, 40);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Samples, testing::ValuesIn(test::allSamples()));
