@@ -26,20 +26,26 @@ void NodeBuilder::fill(XmlResponseNode &node, pugi::xml_node source)
 
 const NodeBuilder::Name &NodeBuilder::name(const char *qualifiedName)
 {
-    const auto [entry, isNew] = m_names.try_emplace(qualifiedName);
-    if (isNew) {
-        const char *local = localName(qualifiedName);
-        entry->second.qualified = toQString(qualifiedName);
-        entry->second.local = local == qualifiedName ? entry->second.qualified : toQString(local);
-    }
-    return entry->second;
+    return m_names.of(qualifiedName, [](std::string_view text) -> Name {
+        const char *local = localName(text.data());
+        const QString qualified = toQString(text.data());
+        return {qualified, local == text.data() ? qualified : toQString(local)};
+    });
+}
+
+QString NodeBuilder::value(const char *utf8)
+{
+    const std::string_view value(utf8);
+    if (value.size() > 128) // hardly comes up again, and is too much to hold on to
+        return toQString(utf8);
+    return m_values.of(value, [](std::string_view text) { return toQString(text.data()); });
 }
 
 void NodeBuilder::setAttributes(QDomElement &element, pugi::xml_node source)
 {
     // Backwards, so that of a repeated attribute the first is set last and stays.
     for (pugi::xml_attribute attribute = source.last_attribute(); attribute; attribute = attribute.previous_attribute())
-        element.setAttribute(name(attribute.name()).qualified, toQString(attribute.value()));
+        element.setAttribute(name(attribute.name()).qualified, value(attribute.value()));
 }
 
 void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
@@ -47,19 +53,20 @@ void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
     qsizetype elementCount = 0;
     for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling())
         elementCount += child.type() == pugi::node_element ? 1 : 0;
-    node.children.reserve(elementCount);
+    if (elementCount > 0)
+        node.children.reserve(elementCount);
 
     if (isCharacterData(pugi::node_pcdata, source.value()))
-        node.element.appendChild(m_document.createTextNode(toQString(source.value())));
+        node.element.appendChild(m_document.createTextNode(value(source.value())));
     for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling()) {
         if (child.type() == pugi::node_element) {
             XmlResponseNode &childNode = node.children.emplaceBack();
             fill(childNode, child);
             node.element.appendChild(childNode.element);
         } else if (child.type() == pugi::node_cdata) {
-            node.element.appendChild(m_document.createCDATASection(toQString(child.value())));
+            node.element.appendChild(m_document.createCDATASection(value(child.value())));
         } else if (isCharacterData(child.type(), child.value())) {
-            node.element.appendChild(m_document.createTextNode(toQString(child.value())));
+            node.element.appendChild(m_document.createTextNode(value(child.value())));
         }
     }
 }

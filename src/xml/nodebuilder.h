@@ -1,13 +1,12 @@
 #pragma once
 
+#include "recentvalues.h"
+
 #include <vorn/util/xmlresponse.h>
 
 #include <QtCore/QString>
 #include <QtXml/QDomDocument>
 #include <pugixml.hpp>
-
-#include <string_view>
-#include <unordered_map>
 
 namespace vorn {
 
@@ -21,7 +20,6 @@ public:
     XmlResponseNode node(pugi::xml_node element);
 
 private:
-    /// A document has few different names, so that each is converted only once and then shared.
     struct Name
     {
         QString qualified;
@@ -30,11 +28,13 @@ private:
 
     void fill(XmlResponseNode &node, pugi::xml_node source);
     const Name &name(const char *qualifiedName);
+    QString value(const char *utf8);
     void setAttributes(QDomElement &element, pugi::xml_node source);
     void appendContent(XmlResponseNode &node, pugi::xml_node source);
 
     QDomDocument m_document;
-    std::unordered_map<std::string_view, Name> m_names;
+    RecentValues<Name> m_names;
+    RecentValues<QString> m_values;
 };
 
 } // namespace vorn

@@ -71,11 +71,14 @@ private:
 
 QString toQString(const char *utf8)
 {
-    const QByteArrayView bytes(utf8);
-    const bool mayStartWithMark = *utf8 == byteOrderMark.front();
-    if (mayStartWithMark && bytes.startsWith(byteOrderMark))
-        return valueDecoder()(bytes);
-    return QString::fromUtf8(bytes);
+    unsigned char allBits = 0;
+    const char *end = utf8;
+    for (; *end != '\0'; ++end)
+        allBits |= static_cast<unsigned char>(*end);
+    const QByteArrayView bytes(utf8, end);
+    if (allBits < 0x80) // ASCII, as nearly all is; then it need not be decoded
+        return QString::fromLatin1(bytes);
+    return bytes.startsWith(byteOrderMark) ? QString(valueDecoder()(bytes)) : QString::fromUtf8(bytes);
 }
 
 bool isCharacterData(pugi::xml_node_type type, const char *utf8)
