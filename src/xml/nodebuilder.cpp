@@ -5,6 +5,11 @@
 
 namespace vorn {
 
+NodeBuilder::NodeBuilder(QDomDocument &owner)
+    : m_owner(owner)
+{
+}
+
 // QDom walks from an element up to its document whenever an attribute is set on it or a child appended. So an element
 // is completed before it is given a parent: then the walk ends at once.
 XmlResponseNode NodeBuilder::node(pugi::xml_node element)
@@ -19,7 +24,7 @@ void NodeBuilder::fill(XmlResponseNode &node, pugi::xml_node source)
     const Name &elementName = name(source.name());
     node.valid = true;
     node.name = elementName.local;
-    node.element = m_document.createElement(elementName.qualified);
+    node.element = m_owner.createElement(elementName.qualified);
     setAttributes(node.element, source);
     appendContent(node, source);
 }
@@ -57,16 +62,16 @@ void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
         node.children.reserve(elementCount);
 
     if (isCharacterData(pugi::node_pcdata, source.value()))
-        node.element.appendChild(m_document.createTextNode(value(source.value())));
+        node.element.appendChild(m_owner.createTextNode(value(source.value())));
     for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling()) {
         if (child.type() == pugi::node_element) {
             XmlResponseNode &childNode = node.children.emplaceBack();
             fill(childNode, child);
             node.element.appendChild(childNode.element);
         } else if (child.type() == pugi::node_cdata) {
-            node.element.appendChild(m_document.createCDATASection(value(child.value())));
+            node.element.appendChild(m_owner.createCDATASection(value(child.value())));
         } else if (isCharacterData(child.type(), child.value())) {
-            node.element.appendChild(m_document.createTextNode(value(child.value())));
+            node.element.appendChild(m_owner.createTextNode(value(child.value())));
         }
     }
 }

@@ -10,12 +10,14 @@
 
 namespace vorn {
 
-/// Makes the nodes that a response hands out.
-///
-/// Only an owner that also keeps the parsed document alive may hold one: the names are kept by their place in it.
+/// Makes the nodes that one query hands out. Lives no longer than the parsed document: it remembers texts by their
+/// place there.
 class NodeBuilder
 {
 public:
+    /// The elements belong to \a owner.
+    explicit NodeBuilder(QDomDocument &owner);
+
     /// The node for \a element, which must not be null.
     XmlResponseNode node(pugi::xml_node element);
 
@@ -32,7 +34,7 @@ private:
     void setAttributes(QDomElement &element, pugi::xml_node source);
     void appendContent(XmlResponseNode &node, pugi::xml_node source);
 
-    QDomDocument m_document;
+    QDomDocument &m_owner;
     RecentValues<Name> m_names;
     RecentValues<QString> m_values;
 };

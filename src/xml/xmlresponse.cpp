@@ -73,7 +73,7 @@ QString XmlResponse::xml() const
 XmlResponseNode XmlResponse::get(const QString &path)
 {
     const pugi::xml_node element = pugi::xml_node(find(path));
-    return element ? nodeBuilder().node(element) : XmlResponseNode();
+    return element ? NodeBuilder(m_nodeOwner).node(element) : XmlResponseNode();
 }
 
 XmlResponseNode XmlResponse::get(const XmlResponseNode &node, const QString &path)
@@ -85,9 +85,10 @@ XmlResponseNode XmlResponse::get(const XmlResponseNode &node, const QString &pat
 QList<XmlResponseNode> XmlResponse::getAll(const QString &path)
 {
     QList<XmlResponseNode> nodes;
+    NodeBuilder builder(m_nodeOwner);
     auto element = pugi::xml_node(find(path));
     while (element) {
-        nodes.append(nodeBuilder().node(element));
+        nodes.append(builder.node(element));
         element = firstNamed(element.next_sibling(), nodes.constFirst().name);
     }
     return nodes;
@@ -154,13 +155,6 @@ pugi::xml_node_struct *XmlResponse::find(const QString &path)
         parent = pugi::xml_node(m_parent);
     }
     return firstNamed(parent.first_child(), name).internal_object();
-}
-
-NodeBuilder &XmlResponse::nodeBuilder()
-{
-    if (!m_nodeBuilder)
-        m_nodeBuilder = std::make_unique<NodeBuilder>();
-    return *m_nodeBuilder;
 }
 
 } // namespace vorn

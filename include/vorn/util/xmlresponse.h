@@ -8,6 +8,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QString>
+#include <QtXml/QDomDocument>
 #include <QtXml/QDomElement>
 
 #include <array>
@@ -19,7 +20,6 @@ struct xml_node_struct;
 
 namespace vorn {
 
-class NodeBuilder;
 class XmlDocument;
 
 /// One element of a reply, with everything below it.
@@ -130,10 +130,9 @@ public:
 
 private:
     pugi::xml_node_struct *find(const QString &path);
-    NodeBuilder &nodeBuilder();
 
     std::shared_ptr<const XmlDocument> m_document;
-    std::unique_ptr<NodeBuilder> m_nodeBuilder; // made by the first query that hands out a node
+    QDomDocument m_nodeOwner; // of the elements that queries hand out; null until one does
 
     // Where the parent of the last path is, as one query often asks for a sibling of what the last one asked for.
     // The path is kept as a copy in place: a query allocates nothing, and the caller's text may be gone by the next.
