@@ -1,0 +1,76 @@
+#include "core/listrecord.h"
+#include "core/readchildren.h"
+
+#include <vorn/onvif/configurations.h>
+
+namespace vorn {
+
+using namespace Qt::StringLiterals;
+
+OnvifAudioOutputConfiguration::OnvifAudioOutputConfiguration() = default;
+
+OnvifAudioOutputConfiguration::OnvifAudioOutputConfiguration(const XmlResponseNode &node)
+    : OnvifDataStructure(node.element.isNull())
+    , token(node.element.attribute(u"token"_s))
+{
+    readChildren(node, {
+                           field("Name", name),
+                           field("UseCount", useCount),
+                           field("OutputToken", outputToken),
+                           field("OutputLevel", outputLevel),
+                           field("SendPrimacy", sendPrimacy),
+                       });
+}
+
+OnvifAudioOutputConfiguration::OnvifAudioOutputConfiguration(const OnvifAudioOutputConfiguration &other) = default;
+OnvifAudioOutputConfiguration &
+OnvifAudioOutputConfiguration::operator=(const OnvifAudioOutputConfiguration &other) = default;
+OnvifAudioOutputConfiguration::~OnvifAudioOutputConfiguration() = default;
+
+bool OnvifAudioOutputConfiguration::operator==(const OnvifAudioOutputConfiguration &other) const
+{
+    return token == other.token;
+}
+
+bool OnvifAudioOutputConfiguration::operator!=(const OnvifAudioOutputConfiguration &other) const
+{
+    return !(*this == other);
+}
+
+OnvifAudioOutputConfigurationVector::OnvifAudioOutputConfigurationVector() = default;
+
+OnvifAudioOutputConfigurationVector::OnvifAudioOutputConfigurationVector(const QByteArray &bytes, const QString &root)
+    : OnvifResponseStructure(bytes, root)
+{
+    appendElements(*this, u"/Configurations"_s);
+    appendElements(*this, u"/Options"_s);
+}
+
+OnvifAudioOutputConfigurationVector::OnvifAudioOutputConfigurationVector(
+    const OnvifAudioOutputConfigurationVector &other) = default;
+OnvifAudioOutputConfigurationVector::OnvifAudioOutputConfigurationVector(
+    OnvifAudioOutputConfigurationVector &&other) noexcept = default;
+OnvifAudioOutputConfigurationVector &
+OnvifAudioOutputConfigurationVector::operator=(const OnvifAudioOutputConfigurationVector &other) = default;
+OnvifAudioOutputConfigurationVector &
+OnvifAudioOutputConfigurationVector::operator=(OnvifAudioOutputConfigurationVector &&other) noexcept = default;
+OnvifAudioOutputConfigurationVector::~OnvifAudioOutputConfigurationVector() = default;
+
+OnvifCompatibleAudioOutputConfigurationVector::OnvifCompatibleAudioOutputConfigurationVector() = default;
+
+OnvifCompatibleAudioOutputConfigurationVector::OnvifCompatibleAudioOutputConfigurationVector(const QByteArray &bytes)
+    : OnvifAudioOutputConfigurationVector(bytes, u"/Envelope/Body/GetCompatibleAudioOutputConfigurationsResponse"_s)
+{
+}
+
+OnvifCompatibleAudioOutputConfigurationVector::OnvifCompatibleAudioOutputConfigurationVector(
+    const OnvifCompatibleAudioOutputConfigurationVector &other) = default;
+OnvifCompatibleAudioOutputConfigurationVector::OnvifCompatibleAudioOutputConfigurationVector(
+    OnvifCompatibleAudioOutputConfigurationVector &&other) noexcept = default;
+OnvifCompatibleAudioOutputConfigurationVector &OnvifCompatibleAudioOutputConfigurationVector::operator=(
+    const OnvifCompatibleAudioOutputConfigurationVector &other) = default;
+OnvifCompatibleAudioOutputConfigurationVector &OnvifCompatibleAudioOutputConfigurationVector::operator=(
+    OnvifCompatibleAudioOutputConfigurationVector &&other) noexcept = default;
+OnvifCompatibleAudioOutputConfigurationVector::~OnvifCompatibleAudioOutputConfigurationVector() = default;
+
+} // namespace vorn

@@ -1,0 +1,101 @@
+#include "core/listrecord.h"
+#include "core/readchildren.h"
+
+#include <vorn/onvif/configurations.h>
+
+namespace vorn {
+
+using namespace Qt::StringLiterals;
+
+OnvifMetadataConfiguration::OnvifMetadataConfiguration() = default;
+
+OnvifMetadataConfiguration::OnvifMetadataConfiguration(const XmlResponseNode &node)
+    : OnvifDataStructure(node.element.isNull())
+    , token(node.element.attribute(u"token"_s))
+{
+    readChildren(node, {
+                           field("Name", name),
+                           field("UseCount", useCount),
+                           field("Analytics", analytics),
+                           field("SessionTimeout", sessionTimeout),
+                           nested("PTZStatus",
+                                  [this](const XmlResponseNode &child) {
+                                      readChildren(child, {field("Status", ptzStatus), field("Position", ptzPosition)});
+                                  }),
+                           nested("Events",
+                                  [this](const XmlResponseNode &child) {
+                                      readChildren(child, {
+                                                              field("Filter", eventsFilter),
+                                                              field("SubscriptionPolicy", eventsSubscriptionPolicy),
+                                                          });
+                                  }),
+                           field("AnalyticsEngineConfiguration", analyticsEngineConfiguration),
+                       });
+}
+
+OnvifMetadataConfiguration::OnvifMetadataConfiguration(const OnvifMetadataConfiguration &other) = default;
+
+// The modules are not taken over: to a caller, an assigned record keeps the list that it had. Copies do take it.
+OnvifMetadataConfiguration &OnvifMetadataConfiguration::operator=(const OnvifMetadataConfiguration &other)
+{
+    OnvifDataStructure::operator=(other);
+    name = other.name;
+    token = other.token;
+    useCount = other.useCount;
+    analytics = other.analytics;
+    sessionTimeout = other.sessionTimeout;
+    ptzStatus = other.ptzStatus;
+    ptzPosition = other.ptzPosition;
+    eventsFilter = other.eventsFilter;
+    eventsSubscriptionPolicy = other.eventsSubscriptionPolicy;
+    return *this;
+}
+
+OnvifMetadataConfiguration::~OnvifMetadataConfiguration() = default;
+
+bool OnvifMetadataConfiguration::operator==(const OnvifMetadataConfiguration &other) const
+{
+    return token == other.token;
+}
+
+bool OnvifMetadataConfiguration::operator!=(const OnvifMetadataConfiguration &other) const
+{
+    return !(*this == other);
+}
+
+OnvifMetadataConfigurationVector::OnvifMetadataConfigurationVector() = default;
+
+OnvifMetadataConfigurationVector::OnvifMetadataConfigurationVector(const QByteArray &bytes, const QString &root)
+    : OnvifResponseStructure(bytes, root)
+{
+    appendElements(*this, u"/Configurations"_s);
+}
+
+OnvifMetadataConfigurationVector::OnvifMetadataConfigurationVector(const OnvifMetadataConfigurationVector &other) =
+    default;
+OnvifMetadataConfigurationVector::OnvifMetadataConfigurationVector(OnvifMetadataConfigurationVector &&other) noexcept =
+    default;
+OnvifMetadataConfigurationVector &
+OnvifMetadataConfigurationVector::operator=(const OnvifMetadataConfigurationVector &other) = default;
+OnvifMetadataConfigurationVector &
+OnvifMetadataConfigurationVector::operator=(OnvifMetadataConfigurationVector &&other) noexcept = default;
+OnvifMetadataConfigurationVector::~OnvifMetadataConfigurationVector() = default;
+
+OnvifCompatibleMetadataConfigurationVector::OnvifCompatibleMetadataConfigurationVector() = default;
+
+OnvifCompatibleMetadataConfigurationVector::OnvifCompatibleMetadataConfigurationVector(const QByteArray &bytes)
+    : OnvifMetadataConfigurationVector(bytes, u"/Envelope/Body/GetCompatibleMetadataConfigurationsResponse"_s)
+{
+}
+
+OnvifCompatibleMetadataConfigurationVector::OnvifCompatibleMetadataConfigurationVector(
+    const OnvifCompatibleMetadataConfigurationVector &other) = default;
+OnvifCompatibleMetadataConfigurationVector::OnvifCompatibleMetadataConfigurationVector(
+    OnvifCompatibleMetadataConfigurationVector &&other) noexcept = default;
+OnvifCompatibleMetadataConfigurationVector &OnvifCompatibleMetadataConfigurationVector::operator=(
+    const OnvifCompatibleMetadataConfigurationVector &other) = default;
+OnvifCompatibleMetadataConfigurationVector &OnvifCompatibleMetadataConfigurationVector::operator=(
+    OnvifCompatibleMetadataConfigurationVector &&other) noexcept = default;
+OnvifCompatibleMetadataConfigurationVector::~OnvifCompatibleMetadataConfigurationVector() = default;
+
+} // namespace vorn

@@ -1,0 +1,91 @@
+#include "core/listrecord.h"
+#include "core/readchildren.h"
+
+#include <vorn/onvif/configurations.h>
+
+namespace vorn {
+
+using namespace Qt::StringLiterals;
+
+/// A bound that is missing is 0, also where an earlier element had it.
+static void readValue(const XmlResponseNode &node, OnvifPtzRange &range)
+{
+    range = OnvifPtzRange();
+    readChildren(node, {field("Min", range.min), field("Max", range.max)});
+}
+
+/// The axes stand below a child of \a limits, whatever its name.
+static void readAxes(const XmlResponseNode &limits, std::initializer_list<ChildReader> axes)
+{
+    for (const XmlResponseNode &space : limits.children)
+        readChildren(space, axes);
+}
+
+OnvifPtzConfiguration::OnvifPtzConfiguration() = default;
+
+OnvifPtzConfiguration::OnvifPtzConfiguration(const XmlResponseNode &node)
+    : OnvifDataStructure(node.element.isNull())
+    , token(node.element.attribute(u"token"_s))
+{
+    readChildren(node,
+                 {
+                     field("Name", name),
+                     field("DefaultPTZTimeout", defaultPtzTimeout),
+                     field("UseCount", useCount),
+                     field("NodeToken", nodeToken),
+                     nested("PanTiltLimits",
+                            [this](const XmlResponseNode &child) {
+                                readAxes(child, {field("XRange", panTiltXRange), field("YRange", panTiltYRange)});
+                            }),
+                     nested("ZoomLimits",
+                            [this](const XmlResponseNode &child) { readAxes(child, {field("XRange", zoomXRange)}); }),
+                 });
+}
+
+OnvifPtzConfiguration::OnvifPtzConfiguration(const OnvifPtzConfiguration &other) = default;
+OnvifPtzConfiguration &OnvifPtzConfiguration::operator=(const OnvifPtzConfiguration &other) = default;
+OnvifPtzConfiguration::~OnvifPtzConfiguration() = default;
+
+bool OnvifPtzConfiguration::operator==(const OnvifPtzConfiguration &other) const
+{
+    return token == other.token;
+}
+
+bool OnvifPtzConfiguration::operator!=(const OnvifPtzConfiguration &other) const
+{
+    return !(*this == other);
+}
+
+OnvifPtzConfigurationVector::OnvifPtzConfigurationVector() = default;
+
+OnvifPtzConfigurationVector::OnvifPtzConfigurationVector(const QByteArray &bytes, const QString &root)
+    : OnvifResponseStructure(bytes, root)
+{
+    appendElements(*this, u"/PTZConfiguration"_s);
+}
+
+OnvifPtzConfigurationVector::OnvifPtzConfigurationVector(const OnvifPtzConfigurationVector &other) = default;
+OnvifPtzConfigurationVector::OnvifPtzConfigurationVector(OnvifPtzConfigurationVector &&other) noexcept = default;
+OnvifPtzConfigurationVector &OnvifPtzConfigurationVector::operator=(const OnvifPtzConfigurationVector &other) = default;
+OnvifPtzConfigurationVector &
+OnvifPtzConfigurationVector::operator=(OnvifPtzConfigurationVector &&other) noexcept = default;
+OnvifPtzConfigurationVector::~OnvifPtzConfigurationVector() = default;
+
+OnvifCompatiblePtzConfigurationVector::OnvifCompatiblePtzConfigurationVector() = default;
+
+OnvifCompatiblePtzConfigurationVector::OnvifCompatiblePtzConfigurationVector(const QByteArray &bytes)
+    : OnvifPtzConfigurationVector(bytes, u"/Envelope/Body/GetCompatibleConfigurationsResponse"_s)
+{
+}
+
+OnvifCompatiblePtzConfigurationVector::OnvifCompatiblePtzConfigurationVector(
+    const OnvifCompatiblePtzConfigurationVector &other) = default;
+OnvifCompatiblePtzConfigurationVector::OnvifCompatiblePtzConfigurationVector(
+    OnvifCompatiblePtzConfigurationVector &&other) noexcept = default;
+OnvifCompatiblePtzConfigurationVector &
+OnvifCompatiblePtzConfigurationVector::operator=(const OnvifCompatiblePtzConfigurationVector &other) = default;
+OnvifCompatiblePtzConfigurationVector &
+OnvifCompatiblePtzConfigurationVector::operator=(OnvifCompatiblePtzConfigurationVector &&other) noexcept = default;
+OnvifCompatiblePtzConfigurationVector::~OnvifCompatiblePtzConfigurationVector() = default;
+
+} // namespace vorn

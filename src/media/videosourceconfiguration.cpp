@@ -1,0 +1,86 @@
+#include "core/listrecord.h"
+#include "core/readchildren.h"
+
+#include <vorn/onvif/configurations.h>
+
+namespace vorn {
+
+using namespace Qt::StringLiterals;
+
+/// As QRect(x, y, width, height), but an edge beyond the range of int wraps around.
+static void readValue(const XmlResponseNode &node, QRect &bounds)
+{
+    const auto number = [&node](const QString &attribute) { return node.element.attribute(attribute).toInt(); };
+    const auto lastOf = [](int first, int count) {
+        return static_cast<int>(static_cast<unsigned int>(first) + static_cast<unsigned int>(count) - 1U);
+    };
+    const int x = number(u"x"_s);
+    const int y = number(u"y"_s);
+    bounds.setCoords(x, y, lastOf(x, number(u"width"_s)), lastOf(y, number(u"height"_s)));
+}
+
+OnvifVideoSourceConfiguration::OnvifVideoSourceConfiguration() = default;
+
+OnvifVideoSourceConfiguration::OnvifVideoSourceConfiguration(const XmlResponseNode &node)
+    : OnvifDataStructure(node.element.isNull())
+    , token(node.element.attribute(u"token"_s))
+{
+    readChildren(node, {
+                           field("Name", name),
+                           field("UseCount", useCount),
+                           field("SourceToken", sourceToken),
+                           field("Bounds", bounds),
+                       });
+}
+
+OnvifVideoSourceConfiguration::OnvifVideoSourceConfiguration(const OnvifVideoSourceConfiguration &other) = default;
+OnvifVideoSourceConfiguration &
+OnvifVideoSourceConfiguration::operator=(const OnvifVideoSourceConfiguration &other) = default;
+OnvifVideoSourceConfiguration::~OnvifVideoSourceConfiguration() = default;
+
+bool OnvifVideoSourceConfiguration::operator==(const OnvifVideoSourceConfiguration &other) const
+{
+    return token == other.token;
+}
+
+bool OnvifVideoSourceConfiguration::operator!=(const OnvifVideoSourceConfiguration &other) const
+{
+    return !(*this == other);
+}
+
+OnvifVideoSourceConfigurationVector::OnvifVideoSourceConfigurationVector() = default;
+
+OnvifVideoSourceConfigurationVector::OnvifVideoSourceConfigurationVector(const QByteArray &bytes, const QString &root)
+    : OnvifResponseStructure(bytes, root)
+{
+    appendElements(*this, u"/Configurations"_s);
+}
+
+OnvifVideoSourceConfigurationVector::OnvifVideoSourceConfigurationVector(
+    const OnvifVideoSourceConfigurationVector &other) = default;
+OnvifVideoSourceConfigurationVector::OnvifVideoSourceConfigurationVector(
+    OnvifVideoSourceConfigurationVector &&other) noexcept = default;
+OnvifVideoSourceConfigurationVector &
+OnvifVideoSourceConfigurationVector::operator=(const OnvifVideoSourceConfigurationVector &other) = default;
+OnvifVideoSourceConfigurationVector &
+OnvifVideoSourceConfigurationVector::operator=(OnvifVideoSourceConfigurationVector &&other) noexcept = default;
+OnvifVideoSourceConfigurationVector::~OnvifVideoSourceConfigurationVector() = default;
+
+OnvifCompatibleVideoSourceConfigurationVector::OnvifCompatibleVideoSourceConfigurationVector() = default;
+
+OnvifCompatibleVideoSourceConfigurationVector::OnvifCompatibleVideoSourceConfigurationVector(const QByteArray &bytes)
+    : OnvifVideoSourceConfigurationVector(bytes, u"/Envelope/Body/GetCompatibleVideoSourceConfigurationsResponse"_s)
+{
+}
+
+OnvifCompatibleVideoSourceConfigurationVector::OnvifCompatibleVideoSourceConfigurationVector(
+    const OnvifCompatibleVideoSourceConfigurationVector &other) = default;
+OnvifCompatibleVideoSourceConfigurationVector::OnvifCompatibleVideoSourceConfigurationVector(
+    OnvifCompatibleVideoSourceConfigurationVector &&other) noexcept = default;
+OnvifCompatibleVideoSourceConfigurationVector &OnvifCompatibleVideoSourceConfigurationVector::operator=(
+    const OnvifCompatibleVideoSourceConfigurationVector &other) = default;
+OnvifCompatibleVideoSourceConfigurationVector &OnvifCompatibleVideoSourceConfigurationVector::operator=(
+    OnvifCompatibleVideoSourceConfigurationVector &&other) noexcept = default;
+OnvifCompatibleVideoSourceConfigurationVector::~OnvifCompatibleVideoSourceConfigurationVector() = default;
+
+} // namespace vorn
