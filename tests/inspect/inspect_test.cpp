@@ -3,6 +3,7 @@
 #include "samples/samples.h"
 #include "support/printing.h"
 
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
@@ -119,6 +120,26 @@ TEST(Inspect, printsJsonWithTheNamesOfTheFields)
 }
 
 const QString fixedUser = QStringLiteral(SAMPLES_FOLDER "/faults/FixedUser.xml");
+
+TEST(Inspect, showsAConfigurationThatAProfileLacksAsNull)
+{
+    const Result result =
+        inspect({"--json", "-"},
+                inBody("<GetProfilesResponse><Profiles><VideoSourceConfiguration/></Profiles></GetProfilesResponse>"));
+    const QJsonObject profile = QJsonDocument::fromJson(result.output).object()["record"].toArray().first().toObject();
+    EXPECT_TRUE(profile["videoSource"].isObject());
+    for (const char *field : {"audioSource", "videoEncoder", "audioEncoder", "videoAnalytics", "ptz", "metadata",
+                              "audioOutput", "audioDecoder"})
+        EXPECT_TRUE(profile.contains(QLatin1String(field)) && profile[QLatin1String(field)].isNull()) << field;
+}
+
+TEST(Inspect, showsNumbersAsShortAsTheyAreExact)
+{
+    const Result result = inspect(
+        {"-"}, inBody("<GetVideoEncoderConfigurationsResponse><Configurations><Quality>0.1</Quality></Configurations>"
+                      "</GetVideoEncoderConfigurationsResponse>"));
+    EXPECT_TRUE(result.output.contains("quality: 0.1\n")) << result.output.toStdString();
+}
 
 TEST(Inspect, showsAFaultByNameNumberAndSentence)
 {

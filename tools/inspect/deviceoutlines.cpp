@@ -16,11 +16,14 @@ Outline groupOutline(const vorn::OnvifCapabilities::Network &network)
 
 Outline groupOutline(const vorn::OnvifCapabilities::System &system)
 {
+    Outline::List versions;
+    for (const vorn::OnvifCapabilities::SupportedVersion &version : system.supportedVersions)
+        versions.push_back(Outline::Fields{{"major", version.major}, {"minor", version.minor}});
     return Outline::Fields{
         {"discoveryResolve", system.discoveryResolve},
         {"discoveryBye", system.discoveryBye},
         {"remoteDiscovery", system.remoteDiscovery},
-        {"supportedVersions", outlineOfRecords(system.supportedVersions)},
+        {"supportedVersions", versions},
         {"systemBackup", system.systemBackup},
         {"firmwareUpgrade", system.firmwareUpgrade},
         {"systemLogging", system.systemLogging},
@@ -99,11 +102,6 @@ Outline outline(const vorn::OnvifDeviceInformation &record)
         {"firmwareVersion", record.firmwareVersion}, {"serialNumber", record.serialNumber},
         {"hardwareId", record.hardwareId},
     };
-}
-
-Outline outline(const vorn::OnvifCapabilities::SupportedVersion &version)
-{
-    return Outline::Fields{{"major", version.major}, {"minor", version.minor}};
 }
 
 Outline outline(const vorn::OnvifCapabilities &record)

@@ -2,6 +2,7 @@
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
+#include <QtCore/QLocale>
 
 namespace inspect {
 namespace {
@@ -86,7 +87,7 @@ QString Outline::toLines(const Palette &palette, int depth) const
             [](bool value) { return value ? QStringLiteral(" true") : QStringLiteral(" false"); },
             [](int value) { return QLatin1Char(' ') + QString::number(value); },
             [](unsigned int value) { return QLatin1Char(' ') + QString::number(value); },
-            [](double value) { return QLatin1Char(' ') + QString::number(value, 'g', 17); },
+            [](double value) { return QLatin1Char(' ') + QString::number(value, 'g', QLocale::FloatingPointShortest); },
             [](const QString &value) -> QString { return QLatin1String(" \"") + printable(value) + QLatin1Char('"'); },
             fieldLines,
             listLines,

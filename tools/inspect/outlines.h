@@ -2,9 +2,12 @@
 
 #include "outline.h"
 
+#include <vorn/onvif/analytics.h>
+#include <vorn/onvif/configurations.h>
 #include <vorn/onvif/device.h>
 #include <vorn/onvif/discovery.h>
 #include <vorn/onvif/faults.h>
+#include <vorn/onvif/profiles.h>
 #include <vorn/onvif/scopes.h>
 
 /// The outline of each record: its public fields by their names.
@@ -12,10 +15,21 @@ namespace inspect {
 
 Outline outline(const vorn::OnvifDeviceInformation &record);
 Outline outline(const vorn::OnvifCapabilities &record);
-Outline outline(const vorn::OnvifCapabilities::SupportedVersion &version);
 Outline outline(const vorn::OnvifScope &record);
 Outline outline(const vorn::OnvifScopeMap &record);
 Outline outline(const vorn::OnvifCamera &record);
+Outline outline(const vorn::OnvifAnalyticsModule &record);
+Outline outline(const vorn::OnvifRule &record);
+Outline outline(const vorn::OnvifVideoSourceConfiguration &record);
+Outline outline(const vorn::OnvifVideoEncoderConfiguration &record);
+Outline outline(const vorn::OnvifAudioSourceConfiguration &record);
+Outline outline(const vorn::OnvifAudioOutputConfiguration &record);
+Outline outline(const vorn::OnvifAudioEncoderConfiguration &record);
+Outline outline(const vorn::OnvifAudioDecoderConfiguration &record);
+Outline outline(const vorn::OnvifMetadataConfiguration &record);
+Outline outline(const vorn::OnvifPtzConfiguration &record);
+Outline outline(const vorn::OnvifVideoAnalyticsConfiguration &record);
+Outline outline(const vorn::OnvifProfile &record);
 
 /// The three codes by name, the number of the first, and the sentence.
 Outline outline(const vorn::OnvifFault &fault);
@@ -27,13 +41,20 @@ Outline outlineOfValues(const List &list)
     return Outline::List(list.begin(), list.end());
 }
 
+/// The outline of \a record; a null record has none.
+template <typename Record>
+Outline outlineUnlessNull(const Record &record)
+{
+    return record.isNull() ? Outline() : outline(record);
+}
+
 /// The records of \a list in order.
 template <typename List>
 Outline outlineOfRecords(const List &list)
 {
     Outline::List entries;
     for (const auto &entry : list)
-        entries.push_back(outline(entry));
+        entries.push_back(outlineUnlessNull(entry));
     return entries;
 }
 

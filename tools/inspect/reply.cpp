@@ -14,13 +14,42 @@ namespace {
 struct Reader
 {
     const char *element;
-    Outline (*read)(const QByteArray &bytes);
+    Outline (*read)(const QByteArray &bytes, const QString &root); ///< \c root is the path of the element
 };
 
 template <typename Record>
-Outline readRecord(const QByteArray &bytes)
+Outline readRecord(const QByteArray &bytes, const QString &)
 {
     return outline(Record(bytes));
+}
+
+template <typename Record>
+Outline readRecordBelow(const QByteArray &bytes, const QString &root)
+{
+    return outline(Record(bytes, root));
+}
+
+template <typename List>
+Outline readList(const QByteArray &bytes, const QString &)
+{
+    return outlineOfRecords(List(bytes));
+}
+
+template <typename List>
+Outline readListBelow(const QByteArray &bytes, const QString &root)
+{
+    return outlineOfRecords(List(bytes, root));
+}
+
+/// The library has no list for this reply, but a record for each of its elements.
+Outline readMetadataConfigurations(const QByteArray &bytes, const QString &root)
+{
+    QList<vorn::OnvifMetadataConfiguration> list;
+    vorn::XmlResponse response(bytes, root);
+    const QList<vorn::XmlResponseNode> nodes = response.getAll(QStringLiteral("/Configurations"));
+    for (const vorn::XmlResponseNode &node : nodes)
+        list.append(vorn::OnvifMetadataConfiguration(node));
+    return outlineOfRecords(list);
 }
 
 const Reader readers[] = {
@@ -28,6 +57,28 @@ const Reader readers[] = {
     {"GetCapabilitiesResponse", readRecord<vorn::OnvifCapabilities>},
     {"GetScopesResponse", readRecord<vorn::OnvifScopeMap>},
     {"ProbeMatches", readRecord<vorn::OnvifCamera>},
+    {"GetProfilesResponse", readListBelow<vorn::OnvifProfileVector>},
+    {"GetProfileResponse", readRecordBelow<vorn::OnvifProfile>},
+    {"CreateProfileResponse", readRecordBelow<vorn::OnvifProfile>},
+    {"GetVideoSourceConfigurationsResponse", readListBelow<vorn::OnvifVideoSourceConfigurationVector>},
+    {"GetCompatibleVideoSourceConfigurationsResponse", readList<vorn::OnvifCompatibleVideoSourceConfigurationVector>},
+    {"GetVideoEncoderConfigurationsResponse", readListBelow<vorn::OnvifVideoEncoderConfigurationVector>},
+    {"GetCompatibleVideoEncoderConfigurationsResponse", readList<vorn::OnvifCompatibleVideoEncoderConfigurationVector>},
+    {"GetAudioSourceConfigurationsResponse", readListBelow<vorn::OnvifAudioSourceConfigurationVector>},
+    {"GetCompatibleAudioSourceConfigurationsResponse", readList<vorn::OnvifCompatibleAudioSourceConfigurationVector>},
+    {"GetAudioOutputConfigurationsResponse", readListBelow<vorn::OnvifAudioOutputConfigurationVector>},
+    {"GetCompatibleAudioOutputConfigurationsResponse", readList<vorn::OnvifCompatibleAudioOutputConfigurationVector>},
+    {"GetAudioEncoderConfigurationsResponse", readListBelow<vorn::OnvifAudioEncoderConfigurationVector>},
+    {"GetCompatibleAudioEncoderConfigurationsResponse", readList<vorn::OnvifCompatibleAudioEncoderConfigurationVector>},
+    {"GetAudioDecoderConfigurationsResponse", readListBelow<vorn::OnvifAudioDecoderConfigurationVector>},
+    {"GetCompatibleAudioDecoderConfigurationsResponse", readList<vorn::OnvifCompatibleAudioDecoderConfigurationVector>},
+    {"GetVideoAnalyticsConfigurationsResponse", readListBelow<vorn::OnvifVideoAnalyticsConfigurationVector>},
+    {"GetCompatibleVideoAnalyticsConfigurationsResponse",
+     readList<vorn::OnvifCompatibleVideoAnalyticsConfigurationVector>},
+    {"GetMetadataConfigurationsResponse", readMetadataConfigurations},
+    {"GetCompatibleMetadataConfigurationsResponse", readList<vorn::OnvifCompatibleMetadataConfigurationVector>},
+    {"GetConfigurationsResponse", readListBelow<vorn::OnvifPtzConfigurationVector>},
+    {"GetCompatibleConfigurationsResponse", readList<vorn::OnvifCompatiblePtzConfigurationVector>},
 };
 
 Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
@@ -44,7 +95,7 @@ Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
     });
     if (reader == std::end(readers))
         return {element, {}, QStringLiteral("The library has no record for this reply.")};
-    return {element, reader->read(bytes), {}};
+    return {element, reader->read(bytes, QLatin1String("/Envelope/Body/") + element), {}};
 }
 
 Reply readFault(vorn::OnvifFault &fault)
