@@ -36,7 +36,7 @@ void addDeviceRoads()
         const vorn::OnvifDeviceInformation information(reply);
         require(information.manufacturer == QLatin1String("Example Optics") && !information.hardwareId.isEmpty(),
                 std::string("device information of style ") + style + " is wrong");
-        addRoad(std::string("OnvifDeviceInformation/") + style, reply, 0.12, read<vorn::OnvifDeviceInformation>);
+        addRoad(std::string("OnvifDeviceInformation/") + style, reply, {0.12}, read<vorn::OnvifDeviceInformation>);
     }
     for (const char *style : {"many-namespaces", "short-prefixes"}) {
         const auto named = [style](const char *record) { return std::string(record) + '/' + style; };
@@ -44,18 +44,18 @@ void addDeviceRoads()
 
         const QByteArray capabilities = sample(folder + QLatin1String("GetCapabilities.xml"));
         require(vorn::OnvifCapabilities(capabilities).hasMedia(), "capabilities are wrong");
-        addRoad(named("OnvifCapabilities"), capabilities, 0.20, read<vorn::OnvifCapabilities>);
+        addRoad(named("OnvifCapabilities"), capabilities, {0.20}, read<vorn::OnvifCapabilities>);
 
         const QByteArray scopes = sample(folder + QLatin1String("GetScopes.xml"));
         require(vorn::OnvifScopeMap(scopes).size() == 12, "scopes are wrong");
-        addRoad(named("OnvifScopeMap"), scopes, 0.45, read<vorn::OnvifScopeMap>);
+        addRoad(named("OnvifScopeMap"), scopes, {0.45}, read<vorn::OnvifScopeMap>);
     }
 
     const QByteArray probeMatch = sample(QStringLiteral("many-namespaces/ProbeMatches.xml"));
     require(vorn::OnvifCamera(probeMatch).scopes.size() == 9, "the probe match is wrong");
-    addRoad("OnvifCamera/many-namespaces", probeMatch, 0.40, read<vorn::OnvifCamera>);
+    addRoad("OnvifCamera/many-namespaces", probeMatch, {0.40}, read<vorn::OnvifCamera>);
 
-    addGrowth("OnvifScopeMap/10000 scopes", replyWithScopes(1000), replyWithScopes(10000), 12,
+    addGrowth("OnvifScopeMap/10000 scopes", replyWithScopes(1000), replyWithScopes(10000), {12},
               read<vorn::OnvifScopeMap>);
 }
 

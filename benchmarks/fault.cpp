@@ -15,14 +15,14 @@ void addFaultRoads()
     for (const char *style : {"many-namespaces", "short-prefixes"}) {
         const QByteArray reply = sample(QLatin1String(style) + QLatin1String("/GetProfiles.xml"));
         require(!vorn::OnvifFault(reply, "", 0).hasError(), "a good reply is taken for a fault");
-        addRoad(std::string("OnvifFault/good reply/") + style, reply, 0.08, classify);
+        addRoad(std::string("OnvifFault/good reply/") + style, reply, {0.08}, classify);
     }
     for (const char *fault : {"NoProfileNoPrefixes", "NoProfile"}) {
         const QByteArray reply = sample(QLatin1String("faults/") + QLatin1String(fault) + QLatin1String(".xml"));
         require(vorn::OnvifFault(reply, "", 0)
                     .is(vorn::OnvifFault::Sender, vorn::OnvifFault::InvalidArgVal, vorn::OnvifFault::NoProfile),
                 "a fault is not recognised");
-        addRoad(std::string("OnvifFault/three codes/") + fault, reply, 0.25, classify);
+        addRoad(std::string("OnvifFault/three codes/") + fault, reply, {0.25}, classify);
     }
 }
 

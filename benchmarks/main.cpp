@@ -1,9 +1,12 @@
-// Times the library's roads against QDomDocument::setContent and checks each against its limit.
+// Times the library's roads against QDomDocument::setContent, counts their instructions, and checks each against its
+// limits.
 
 #include "device.h"
 #include "fault.h"
+#include "media.h"
 #include "road.h"
 
+#include <QtCore/QCoreApplication>
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
@@ -15,9 +18,13 @@
 
 int main(int argc, char **argv)
 {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
+    QCoreApplication application(argc, argv);
+    const bool counts = application.arguments().value(1) == QLatin1String("--count");
+    if (!counts) {
+        benchmark::Initialize(&argc, argv);
+        if (benchmark::ReportUnrecognizedArguments(argc, argv))
+            return 2;
+    }
 #ifdef __GLIBC__
     // Memory that goes back to the system after each run comes back with a page fault for each page, and that would be
     // measured: on these sizes it is as much as the work.
@@ -26,5 +33,10 @@ int main(int argc, char **argv)
 #endif
     bench::addDeviceRoads();
     bench::addFaultRoads();
+    bench::addMediaRoads();
+    if (counts) {
+        bench::runCounted(application.arguments().mid(2));
+        return EXIT_SUCCESS;
+    }
     return bench::runAll(std::cout) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -2,9 +2,11 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <functional>
 #include <iosfwd>
+#include <optional>
 #include <string>
 
 namespace bench {
@@ -12,21 +14,32 @@ namespace bench {
 /// From the bytes of a reply to a record and on to its destruction.
 using Read = std::function<void(const QByteArray &reply)>;
 
-/// Times \a read on \a reply against what `QDomDocument::setContent` and the document's destruction cost on the same
-/// bytes. It may cost at most \a limit of that.
-void addRoad(const std::string &name, const QByteArray &reply, double limit, const Read &read);
+/// The most that a task may cost, as multiples of its yardstick.
+struct Limits
+{
+    std::optional<double> time;
+    std::optional<double> instructions = {};
+};
 
-/// Times \a read on \a large against the same on \a small. It may cost at most \a limit times as much.
-void addGrowth(const std::string &name, const QByteArray &small, const QByteArray &large, double limit,
+/// Compares \a read on \a reply with what `QDomDocument::setContent` and the document's destruction cost on the same
+/// bytes.
+void addRoad(const std::string &name, const QByteArray &reply, const Limits &limits, const Read &read);
+
+/// Compares \a read on \a large with the same on \a small.
+void addGrowth(const std::string &name, const QByteArray &small, const QByteArray &large, const Limits &limits,
                const Read &read);
 
-/// Runs all in one run and prints a table. False if one is over its limit.
+/// Times all in one run, counts their instructions if valgrind is there, and prints a table. False if one is over a
+/// limit.
 bool runAll(std::ostream &output);
+
+/// For the run under valgrind that counts instructions: runs the comparisons of these \a names.
+void runCounted(const QStringList &names);
 
 /// The bytes of a file below samples/. Ends the program if there is no such file.
 QByteArray sample(const QString &path);
 
-/// Ends the program with \a what unless \a holds: a time is worth nothing where the result is wrong.
+/// Ends the program with \a what unless \a holds: a cost is worth nothing where the result is wrong.
 void require(bool holds, const std::string &what);
 
 } // namespace bench
