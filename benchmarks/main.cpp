@@ -4,6 +4,7 @@
 #include "device.h"
 #include "fault.h"
 #include "media.h"
+#include "network.h"
 #include "road.h"
 
 #include <QtCore/QCoreApplication>
@@ -34,6 +35,7 @@ int main(int argc, char **argv)
     bench::addDeviceRoads();
     bench::addFaultRoads();
     bench::addMediaRoads();
+    bench::addNetworkRoads();
     if (counts) {
         bench::runCounted(application.arguments().mid(2));
         return EXIT_SUCCESS;

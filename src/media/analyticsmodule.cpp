@@ -1,3 +1,4 @@
+#include "core/exportlist.h"
 #include "core/readchildren.h"
 
 #include <vorn/onvif/analytics.h>
@@ -45,3 +46,5 @@ OnvifAnalyticsEngineConfigurationVector::operator=(OnvifAnalyticsEngineConfigura
 OnvifAnalyticsEngineConfigurationVector::~OnvifAnalyticsEngineConfigurationVector() = default;
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifAnalyticsModule)

@@ -1,3 +1,4 @@
+#include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
 
@@ -72,3 +73,5 @@ OnvifCompatibleAudioDecoderConfigurationVector &OnvifCompatibleAudioDecoderConfi
 OnvifCompatibleAudioDecoderConfigurationVector::~OnvifCompatibleAudioDecoderConfigurationVector() = default;
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifAudioDecoderConfiguration)

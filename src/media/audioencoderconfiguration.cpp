@@ -1,3 +1,4 @@
+#include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
 
@@ -74,3 +75,5 @@ OnvifCompatibleAudioEncoderConfigurationVector &OnvifCompatibleAudioEncoderConfi
 OnvifCompatibleAudioEncoderConfigurationVector::~OnvifCompatibleAudioEncoderConfigurationVector() = default;
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifAudioEncoderConfiguration)

@@ -1,3 +1,4 @@
+#include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
 
@@ -71,3 +72,5 @@ OnvifCompatibleAudioSourceConfigurationVector &OnvifCompatibleAudioSourceConfigu
 OnvifCompatibleAudioSourceConfigurationVector::~OnvifCompatibleAudioSourceConfigurationVector() = default;
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifAudioSourceConfiguration)

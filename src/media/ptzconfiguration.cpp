@@ -1,3 +1,4 @@
+#include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
 
@@ -89,3 +90,5 @@ OnvifCompatiblePtzConfigurationVector::operator=(OnvifCompatiblePtzConfiguration
 OnvifCompatiblePtzConfigurationVector::~OnvifCompatiblePtzConfigurationVector() = default;
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifPtzConfiguration)

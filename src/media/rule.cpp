@@ -1,3 +1,4 @@
+#include "core/exportlist.h"
 #include "core/readchildren.h"
 
 #include <vorn/onvif/analytics.h>
@@ -44,3 +45,5 @@ OnvifRuleEngineConfigurationVector::operator=(OnvifRuleEngineConfigurationVector
 OnvifRuleEngineConfigurationVector::~OnvifRuleEngineConfigurationVector() = default;
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifRule)

@@ -1,3 +1,4 @@
+#include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
 
@@ -76,3 +77,5 @@ OnvifCompatibleVideoAnalyticsConfigurationVector &OnvifCompatibleVideoAnalyticsC
 OnvifCompatibleVideoAnalyticsConfigurationVector::~OnvifCompatibleVideoAnalyticsConfigurationVector() = default;
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifVideoAnalyticsConfiguration)

@@ -1,3 +1,4 @@
+#include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
 
@@ -91,3 +92,5 @@ OnvifCompatibleVideoEncoderConfigurationVector &OnvifCompatibleVideoEncoderConfi
 OnvifCompatibleVideoEncoderConfigurationVector::~OnvifCompatibleVideoEncoderConfigurationVector() = default;
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifVideoEncoderConfiguration)

@@ -1,3 +1,4 @@
+#include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
 
@@ -84,3 +85,5 @@ OnvifCompatibleVideoSourceConfigurationVector &OnvifCompatibleVideoSourceConfigu
 OnvifCompatibleVideoSourceConfigurationVector::~OnvifCompatibleVideoSourceConfigurationVector() = default;
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifVideoSourceConfiguration)

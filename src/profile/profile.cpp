@@ -1,3 +1,5 @@
+#include "core/exportlist.h"
+
 #include <vorn/onvif/profiles.h>
 
 namespace vorn {
@@ -46,3 +48,5 @@ bool OnvifProfile::isSaved() const
 }
 
 } // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifProfile)

@@ -3,16 +3,15 @@
 #include "expectations.h"
 #include "support/allocations.h"
 #include "support/printing.h"
+#include "support/recordingtranslator.h"
 
 #include <vorn/onvif/faults.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QTranslator>
 #include <gtest/gtest.h>
 
 #include <map>
 #include <tuple>
-#include <vector>
 
 using vorn::OnvifFault;
 
@@ -162,43 +161,7 @@ TEST(FaultSentences, allocateNothingButThemselves)
     }
 }
 
-/// Notes what it is asked to translate, and translates nothing.
-class RecordingTranslator : public QTranslator
-{
-public:
-    struct Request
-    {
-        QByteArray context;
-        QByteArray sourceText;
-        QByteArray disambiguation; // null if there is none
-        int n;
-    };
-
-    QString translate(const char *context, const char *sourceText, const char *disambiguation, int n) const override
-    {
-        requests.push_back({context, sourceText, disambiguation, n});
-        return {};
-    }
-
-    bool isEmpty() const override { return false; }
-
-    mutable std::vector<Request> requests;
-};
-
-class FaultTranslation : public testing::Test
-{
-protected:
-    FaultTranslation() { QCoreApplication::installTranslator(&translator); }
-
-    RecordingTranslator::Request last() const
-    {
-        return translator.requests.empty() ? RecordingTranslator::Request{} : translator.requests.back();
-    }
-
-    int argc = 0;
-    QCoreApplication application{argc, nullptr};
-    RecordingTranslator translator;
-};
+using FaultTranslation = test::TranslationTest;
 
 TEST_F(FaultTranslation, asksOnceForEachSentenceInItsContext)
 {
@@ -234,18 +197,7 @@ TEST_F(FaultTranslation, trHandsItsArgumentsOn)
 
 TEST_F(FaultTranslation, isShownToTheUser)
 {
-    class Upper : public QTranslator
-    {
-    public:
-        QString translate(const char *, const char *sourceText, const char *, int) const override
-        {
-            return QString::fromUtf8(sourceText).toUpper();
-        }
-
-        bool isEmpty() const override { return false; }
-    };
-
-    Upper upper;
+    test::UpperCaseTranslator upper;
     QCoreApplication::installTranslator(&upper);
     EXPECT_EQ(stated(0, 0, 0).toString(), "NO ERROR.");
 }

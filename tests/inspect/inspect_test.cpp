@@ -215,6 +215,98 @@ TEST(Inspect, saysWhyAFaultCannotBeClassified)
               QByteArray("bare fault\n  It has no Reason with a Text.\n"));
 }
 
+const QString interfaces = QStringLiteral(SAMPLES_FOLDER "/many-namespaces/GetNetworkInterfaces.xml");
+const QString gateway = QStringLiteral(SAMPLES_FOLDER "/many-namespaces/GetNetworkDefaultGateway.xml");
+const QString relays = QStringLiteral(SAMPLES_FOLDER "/many-namespaces/GetRelayOutputs.xml");
+
+const QByteArray interfacesAsRequest =
+    "<tds:InterfaceToken>eth0</tds:InterfaceToken><tds:NetworkInterface><tt:Enabled>true</tt:Enabled><tt:IPv4>"
+    "<tt:Enabled>true</tt:Enabled><tt:Manual><tt:Address>192.0.2.64</tt:Address><tt:PrefixLength>24</tt:PrefixLength>"
+    "</tt:Manual><tt:DHCP>true</tt:DHCP></tt:IPv4></tds:NetworkInterface>\n"
+    "<tds:InterfaceToken>wlan0</tds:InterfaceToken><tds:NetworkInterface><tt:Enabled>false</tt:Enabled><tt:IPv4>"
+    "<tt:Enabled>false</tt:Enabled><tt:DHCP>false</tt:DHCP></tt:IPv4></tds:NetworkInterface>\n";
+
+const QByteArray gatewayAsRequest =
+    "<tt:IPv4Address>192.0.2.1</tt:IPv4Address><tt:IPv6Address>2001:db8:1:2::1</tt:IPv6Address>\n";
+
+TEST(InspectRequest, printsEachInterface)
+{
+    const Result result = inspect({"--request", interfaces});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, interfacesAsRequest);
+    EXPECT_EQ(result.errors, QByteArray());
+}
+
+TEST(InspectRequest, printsTheGateway)
+{
+    const Result result = inspect({"--request", gateway});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, gatewayAsRequest);
+}
+
+TEST(InspectRequest, printsThoseOfSeveralFilesInOrder)
+{
+    const Result good = inspect({"--request", gateway, interfaces});
+    EXPECT_EQ(good.exitCode, 0);
+    EXPECT_EQ(good.output, gatewayAsRequest + interfacesAsRequest);
+    const Result other = inspect({"--request", relays, gateway});
+    EXPECT_EQ(other.exitCode, 1);
+    EXPECT_EQ(other.output, gatewayAsRequest);
+}
+
+TEST(InspectRequest, saysWhereThereIsNone)
+{
+    const std::pair<QByteArray, QByteArray> rows[] = {
+        {inBody("<GetRelayOutputsResponse><RelayOutputs/></GetRelayOutputsResponse>"), "GetRelayOutputsResponse"},
+        {inBody("<GetDeviceInformationResponse/>"), "GetDeviceInformationResponse"},
+        {inBody("<GetNetworkInterfacesResponse/>"), "GetNetworkInterfacesResponse"},
+        {inBody("<GetNetworkDefaultGatewayResponse/>"), "GetNetworkDefaultGatewayResponse"},
+        {inBody("<Fault><Code><Value>s:Sender</Value></Code></Fault>"), "SOAP fault"},
+        {inBody("<GetHostnameResponse/>"), "GetHostnameResponse"},
+        {"", "nothing"},
+    };
+    for (const auto &[reply, kind] : rows) {
+        const Result result = inspect({"--request", "-"}, reply);
+        EXPECT_EQ(result.exitCode, 1) << reply.toStdString();
+        EXPECT_EQ(result.output, QByteArray());
+        EXPECT_EQ(result.errors, "onvif-inspect: - (" + kind + "): it holds nothing of which a request can be made.\n");
+    }
+}
+
+TEST(InspectRequest, cannotBeJson)
+{
+    const Result result = inspect({"--request", "--json", gateway});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_EQ(result.output, QByteArray());
+    EXPECT_EQ(result.errors, QByteArray("onvif-inspect: --json and --request exclude each other. Try --help.\n"));
+}
+
+TEST(InspectRequest, printsValuesAsTheyAreAwayFromATerminal)
+{
+    const Result result =
+        inspect({"--request", "-"},
+                inBody("<GetNetworkDefaultGatewayResponse><NetworkGateway><IPv4Address>\"a\\&lt;&#10;</IPv4Address>"
+                       "</NetworkGateway></GetNetworkDefaultGatewayResponse>"));
+    EXPECT_EQ(result.output, QByteArray("<tt:IPv4Address>\"a\\<\n</tt:IPv4Address>\n"));
+}
+
+TEST(Inspect, printsAListAsJson)
+{
+    const QJsonObject line = QJsonDocument::fromJson(inspect({"--json", relays}).output).object();
+    const QJsonArray expected{
+        QJsonObject{{"token", "RelayOutput_1"}, {"mode", "Bistable"}, {"delayTime", "PT0S"}, {"idleState", "Open"}},
+        QJsonObject{
+            {"token", "RelayOutput_2"}, {"mode", "Monostable"}, {"delayTime", "PT2.5S"}, {"idleState", "Closed"}}};
+    EXPECT_EQ(line.value("record").toArray(), expected);
+}
+
+TEST(Inspect, saysThatAListIsEmpty)
+{
+    const Result result = inspect({"-"}, inBody("<GetRelayOutputsResponse/>"));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, QByteArray("GetRelayOutputsResponse none\n"));
+}
+
 TEST(Inspect, printsNothingThatCouldDisturbATerminal)
 {
     const Result result = inspect({"-"}, inBody("<GetDeviceInformationResponse><Model>a&#27;[31m&#10;\"\\&#9;&#x202E;&#"
@@ -252,6 +344,7 @@ TEST(Inspect, hasHelpAndVersion)
     const Result help = inspect({"--help"});
     EXPECT_EQ(help.exitCode, 0);
     EXPECT_TRUE(help.output.contains("--json"));
+    EXPECT_TRUE(help.output.contains("--request"));
     EXPECT_TRUE(help.output.contains("Exit codes"));
     const Result version = inspect({"--version"});
     EXPECT_EQ(version.exitCode, 0);

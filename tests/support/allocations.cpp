@@ -37,26 +37,26 @@ namespace {
 
 #else
 
-// The program's malloc takes precedence over the C library's, for all libraries.
+// The program's malloc takes precedence over the C library's, for all libraries: if they can see it.
 extern "C" {
 
 void *__libc_malloc(std::size_t size);
 void *__libc_calloc(std::size_t count, std::size_t size);
 void *__libc_realloc(void *memory, std::size_t size);
 
-void *malloc(std::size_t size)
+[[gnu::visibility("default")]] void *malloc(std::size_t size)
 {
     countAllocation();
     return __libc_malloc(size);
 }
 
-void *calloc(std::size_t count, std::size_t size)
+[[gnu::visibility("default")]] void *calloc(std::size_t count, std::size_t size)
 {
     countAllocation();
     return __libc_calloc(count, size);
 }
 
-void *realloc(void *memory, std::size_t size)
+[[gnu::visibility("default")]] void *realloc(void *memory, std::size_t size)
 {
     countAllocation();
     return __libc_realloc(memory, size);

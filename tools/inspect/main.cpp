@@ -44,12 +44,19 @@ void complainAbout(const QFile &file)
                  .arg(inspect::printable(file.fileName()), file.errorString()));
 }
 
-inspect::Palette paletteForOutput()
+bool isOutputATerminal()
 {
 #ifdef Q_OS_UNIX
-    if (isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR"))
-        return {QStringLiteral("\033[1m"), QStringLiteral("\033[36m"), QStringLiteral("\033[0m")};
+    return isatty(STDOUT_FILENO) != 0;
+#else
+    return false;
 #endif
+}
+
+inspect::Palette paletteForOutput()
+{
+    if (isOutputATerminal() && qEnvironmentVariableIsEmpty("NO_COLOR"))
+        return {QStringLiteral("\033[1m"), QStringLiteral("\033[36m"), QStringLiteral("\033[0m")};
     return {};
 }
 
@@ -99,7 +106,10 @@ int main(int argc, char **argv)
                                     QStringLiteral("The request that the replies answer, such as DeleteUsers. The "
                                                    "sentence of a fault may depend on it."),
                                     QStringLiteral("NAME"));
-    parser.addOptions({help, version, json, action});
+    const QCommandLineOption request(QStringLiteral("request"),
+                                     QStringLiteral("Prints what stands inside a request that sets what was read: of a "
+                                                    "GetNetworkInterfaces or GetNetworkDefaultGateway reply."));
+    parser.addOptions({help, version, json, request, action});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("A file with the bytes of a reply; - for standard input."),
                                  QStringLiteral("FILE..."));
@@ -115,6 +125,10 @@ int main(int argc, char **argv)
     if (parser.isSet(version)) {
         print(stdout, QStringLiteral("onvif-inspect " VORNSDK_ONVIF_VERSION_STRING "\n"));
         return Read;
+    }
+    if (parser.isSet(json) && parser.isSet(request)) {
+        complain(QStringLiteral("--json and --request exclude each other. Try --help."));
+        return CannotRun;
     }
     const QStringList fileNames = parser.positionalArguments();
     if (fileNames.isEmpty()) {
@@ -141,6 +155,16 @@ int main(int argc, char **argv)
         }
         const inspect::Reply reply = inspect::read(bytes, actionName.constData());
         const QString heading = fileNames.size() > 1 ? inspect::printable(fileName) + QLatin1String(": ") : QString();
+        if (parser.isSet(request)) {
+            for (const QString &fragment : reply.requests)
+                print(stdout, (isOutputATerminal() ? inspect::printable(fragment) : fragment) + QLatin1Char('\n'));
+            if (reply.requests.isEmpty()) {
+                complain(inspect::printable(fileName) + QLatin1String(" (") + inspect::printable(reply.kind)
+                         + QLatin1String("): it holds nothing of which a request can be made."));
+                exitCode = std::max<int>(exitCode, NothingRead);
+            }
+            continue;
+        }
         print(stdout, parser.isSet(json) ? asJson(fileName, reply) : asOutline(heading, reply, palette));
         exitCode = std::max<int>(exitCode, reply.record && !reply.isFault ? Read : NothingRead);
     }

@@ -7,8 +7,12 @@
 #include <vorn/onvif/device.h>
 #include <vorn/onvif/discovery.h>
 #include <vorn/onvif/faults.h>
+#include <vorn/onvif/network.h>
 #include <vorn/onvif/profiles.h>
+#include <vorn/onvif/relays.h>
 #include <vorn/onvif/scopes.h>
+
+#include <type_traits>
 
 /// The outline of each record: its public fields by their names.
 namespace inspect {
@@ -30,6 +34,10 @@ Outline outline(const vorn::OnvifMetadataConfiguration &record);
 Outline outline(const vorn::OnvifPtzConfiguration &record);
 Outline outline(const vorn::OnvifVideoAnalyticsConfiguration &record);
 Outline outline(const vorn::OnvifProfile &record);
+Outline outline(const vorn::OnvifNetworkInterface &record);
+Outline outline(const vorn::OnvifNetworkInterface::PrefixedAddress &address);
+Outline outline(const vorn::OnvifNetworkGateway &record);
+Outline outline(const vorn::OnvifRelayOutput &record);
 
 /// The three codes by name, the number of the first, and the sentence.
 Outline outline(const vorn::OnvifFault &fault);
@@ -45,7 +53,11 @@ Outline outlineOfValues(const List &list)
 template <typename Record>
 Outline outlineUnlessNull(const Record &record)
 {
-    return record.isNull() ? Outline() : outline(record);
+    if constexpr (std::is_base_of_v<vorn::OnvifDataStructure, Record>) {
+        if (record.isNull())
+            return {};
+    }
+    return outline(record);
 }
 
 /// The records of \a list in order.

@@ -15,6 +15,7 @@ struct Reader
 {
     const char *element;
     Outline (*read)(const QByteArray &bytes, const QString &root); ///< \c root is the path of the element
+    QStringList (*requests)(const QByteArray &bytes, const QString &root) = nullptr;
 };
 
 template <typename Record>
@@ -52,6 +53,20 @@ Outline readMetadataConfigurations(const QByteArray &bytes, const QString &root)
     return outlineOfRecords(list);
 }
 
+QStringList interfaceRequests(const QByteArray &bytes, const QString &root)
+{
+    QStringList requests;
+    for (const vorn::OnvifNetworkInterface &record : vorn::OnvifNetworkInterfaceVector(bytes, root))
+        requests.append(record.toString());
+    return requests;
+}
+
+QStringList gatewayRequests(const QByteArray &bytes, const QString &)
+{
+    const QString request = vorn::OnvifNetworkGateway(bytes).toString();
+    return request.isEmpty() ? QStringList() : QStringList(request);
+}
+
 const Reader readers[] = {
     {"GetDeviceInformationResponse", readRecord<vorn::OnvifDeviceInformation>},
     {"GetCapabilitiesResponse", readRecord<vorn::OnvifCapabilities>},
@@ -79,6 +94,9 @@ const Reader readers[] = {
     {"GetCompatibleMetadataConfigurationsResponse", readList<vorn::OnvifCompatibleMetadataConfigurationVector>},
     {"GetConfigurationsResponse", readListBelow<vorn::OnvifPtzConfigurationVector>},
     {"GetCompatibleConfigurationsResponse", readList<vorn::OnvifCompatiblePtzConfigurationVector>},
+    {"GetNetworkInterfacesResponse", readListBelow<vorn::OnvifNetworkInterfaceVector>, interfaceRequests},
+    {"GetNetworkDefaultGatewayResponse", readRecord<vorn::OnvifNetworkGateway>, gatewayRequests},
+    {"GetRelayOutputsResponse", readListBelow<vorn::OnvifRelayOutputVector>},
 };
 
 Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
@@ -95,7 +113,11 @@ Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
     });
     if (reader == std::end(readers))
         return {element, {}, QStringLiteral("The library has no record for this reply.")};
-    return {element, reader->read(bytes, QLatin1String("/Envelope/Body/") + element), {}};
+    const QString root = QLatin1String("/Envelope/Body/") + element;
+    Reply reply{element, reader->read(bytes, root), {}};
+    if (reader->requests)
+        reply.requests = reader->requests(bytes, root);
+    return reply;
 }
 
 Reply readFault(vorn::OnvifFault &fault)

@@ -4,6 +4,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <optional>
 
@@ -22,6 +23,10 @@ struct Reply
     QString remark;
 
     bool isFault = false;
+
+    /// The record, or each record of the list, as a part of a request that sets it; none if the library has no such
+    /// form.
+    QStringList requests = {};
 };
 
 /// Reads the reply \a bytes to the request \a action, which must outlive the call only.

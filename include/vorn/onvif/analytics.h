@@ -33,22 +33,6 @@ struct VORNSDK_ONVIF_EXPORT OnvifAnalyticsModule : OnvifDataStructure
     bool operator==(const OnvifAnalyticsModule &other) const;
 };
 
-/// The analytics modules of a configuration.
-struct VORNSDK_ONVIF_EXPORT OnvifAnalyticsEngineConfigurationVector : QList<OnvifAnalyticsModule>
-{
-    /// An empty list.
-    OnvifAnalyticsEngineConfigurationVector();
-
-    /// Reads each child of \a node that is called "AnalyticsModule", in document order.
-    explicit OnvifAnalyticsEngineConfigurationVector(const XmlResponseNode &node);
-
-    OnvifAnalyticsEngineConfigurationVector(const OnvifAnalyticsEngineConfigurationVector &other);
-    OnvifAnalyticsEngineConfigurationVector(OnvifAnalyticsEngineConfigurationVector &&other) noexcept;
-    OnvifAnalyticsEngineConfigurationVector &operator=(const OnvifAnalyticsEngineConfigurationVector &other);
-    OnvifAnalyticsEngineConfigurationVector &operator=(OnvifAnalyticsEngineConfigurationVector &&other) noexcept;
-    ~OnvifAnalyticsEngineConfigurationVector();
-};
-
 /// A rule: what an analytics module reports as an event, such as a crossed line. Its parameters are not kept.
 struct VORNSDK_ONVIF_EXPORT OnvifRule : OnvifDataStructure
 {
@@ -69,6 +53,29 @@ struct VORNSDK_ONVIF_EXPORT OnvifRule : OnvifDataStructure
 
     /// Whether both are null or both are not, and name and type are equal.
     bool operator==(const OnvifRule &other) const;
+};
+
+} // namespace vorn
+
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifAnalyticsModule)
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifRule)
+
+namespace vorn {
+
+/// The analytics modules of a configuration.
+struct VORNSDK_ONVIF_EXPORT OnvifAnalyticsEngineConfigurationVector : QList<OnvifAnalyticsModule>
+{
+    /// An empty list.
+    OnvifAnalyticsEngineConfigurationVector();
+
+    /// Reads each child of \a node that is called "AnalyticsModule", in document order.
+    explicit OnvifAnalyticsEngineConfigurationVector(const XmlResponseNode &node);
+
+    OnvifAnalyticsEngineConfigurationVector(const OnvifAnalyticsEngineConfigurationVector &other);
+    OnvifAnalyticsEngineConfigurationVector(OnvifAnalyticsEngineConfigurationVector &&other) noexcept;
+    OnvifAnalyticsEngineConfigurationVector &operator=(const OnvifAnalyticsEngineConfigurationVector &other);
+    OnvifAnalyticsEngineConfigurationVector &operator=(OnvifAnalyticsEngineConfigurationVector &&other) noexcept;
+    ~OnvifAnalyticsEngineConfigurationVector();
 };
 
 /// The rules of a configuration.

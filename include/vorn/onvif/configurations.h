@@ -286,6 +286,19 @@ struct VORNSDK_ONVIF_EXPORT OnvifVideoAnalyticsConfiguration : OnvifDataStructur
     bool operator!=(const OnvifVideoAnalyticsConfiguration &other) const;
 };
 
+} // namespace vorn
+
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifVideoSourceConfiguration)
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifVideoEncoderConfiguration)
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifAudioSourceConfiguration)
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifAudioOutputConfiguration)
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifAudioEncoderConfiguration)
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifAudioDecoderConfiguration)
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifPtzConfiguration)
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifVideoAnalyticsConfiguration)
+
+namespace vorn {
+
 /// The video source configurations of a device.
 struct VORNSDK_ONVIF_EXPORT OnvifVideoSourceConfigurationVector : QList<OnvifVideoSourceConfiguration>,
                                                                   OnvifResponseStructure

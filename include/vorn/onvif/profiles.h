@@ -65,6 +65,12 @@ private:
     bool m_saved = false;
 };
 
+} // namespace vorn
+
+VORNSDK_ONVIF_DECLARE_LIST(vorn::OnvifProfile)
+
+namespace vorn {
+
 /// The media profiles of a device: the answer to GetProfiles.
 ///
 /// They stand in document order. A reply of another kind, also a fault, gives an empty list.

@@ -1,0 +1,196 @@
+#include "core/exportlist.h"
+#include "core/listrecord.h"
+#include "core/readchildren.h"
+#include "readenumeration.h"
+
+#include <vorn/onvif/network.h>
+
+namespace vorn {
+
+using namespace Qt::StringLiterals;
+
+using LinkSettings = OnvifNetworkInterface::LinkSettings;
+using PrefixedAddress = OnvifNetworkInterface::PrefixedAddress;
+using IPv4 = OnvifNetworkInterface::IPv4;
+using IPv6 = OnvifNetworkInterface::IPv6;
+
+static void readValue(const XmlResponseNode &node, LinkSettings::Duplex &duplex)
+{
+    readEnumeration(node, duplex, {{"Full", LinkSettings::Full}, {"Half", LinkSettings::Half}});
+}
+
+static void readValue(const XmlResponseNode &node, IPv6::Configuration::DHCP &dhcp)
+{
+    readEnumeration(node, dhcp,
+                    {
+                        {"Auto", IPv6::Configuration::Auto},
+                        {"Stateful", IPv6::Configuration::Stateful},
+                        {"Stateless", IPv6::Configuration::Stateless},
+                        {"Off", IPv6::Configuration::Off},
+                    });
+}
+
+static void readValue(const XmlResponseNode &node, LinkSettings &settings)
+{
+    settings.present = true;
+    readChildren(node, {
+                           field("AutoNegotiation", settings.autoNegotiation),
+                           field("Speed", settings.speed),
+                           field("Duplex", settings.duplex),
+                       });
+}
+
+/// What an entry lacks is empty or 0, also where an earlier element had it.
+static void readValue(const XmlResponseNode &node, PrefixedAddress &entry)
+{
+    entry = PrefixedAddress();
+    readChildren(node, {field("Address", entry.address), field("PrefixLength", entry.prefixLength)});
+}
+
+/// Each element adds an entry.
+static void readValue(const XmlResponseNode &node, QList<PrefixedAddress> &entries)
+{
+    readValue(node, entries.emplaceBack());
+}
+
+static void readValue(const XmlResponseNode &node, IPv4::Configuration &config)
+{
+    readChildren(node, {
+                           field("Manual", config.manual),
+                           field("LinkLocal", config.linkLocal),
+                           field("FromDHCP", config.fromDHCP),
+                           field("DHCP", config.dhcp),
+                       });
+}
+
+static void readValue(const XmlResponseNode &node, IPv6::Configuration &config)
+{
+    readChildren(node, {
+                           field("AcceptRouterAdvert", config.acceptRouterAdvert),
+                           field("DHCP", config.dhcp),
+                           field("Manual", config.manual),
+                           field("LinkLocal", config.linkLocal),
+                           field("FromDHCP", config.fromDHCP),
+                           field("FromRA", config.fromRA),
+                       });
+}
+
+static void readValue(const XmlResponseNode &node, IPv4 &ipv4)
+{
+    readChildren(node, {field("Enabled", ipv4.enabled), field("Config", ipv4.config)});
+}
+
+static void readValue(const XmlResponseNode &node, IPv6 &ipv6)
+{
+    readChildren(node, {field("Enabled", ipv6.enabled), field("Config", ipv6.config)});
+}
+
+OnvifNetworkInterface::LinkSettings::LinkSettings() = default;
+
+namespace {
+
+/// The assignments of LinkSettings are trivial, so that no code calls them. They are part of the library all the same:
+/// what names them makes the compiler put them there.
+struct LinkSettingsAssignments
+{
+    LinkSettings &(LinkSettings::*copy)(const LinkSettings &);
+    LinkSettings &(LinkSettings::*move)(LinkSettings &&);
+};
+
+[[gnu::used]] const LinkSettingsAssignments linkSettingsAssignments = {
+    &LinkSettings::operator=,
+    &LinkSettings::operator=,
+};
+
+} // namespace
+
+OnvifNetworkInterface::PrefixedAddress::PrefixedAddress() = default;
+OnvifNetworkInterface::PrefixedAddress::PrefixedAddress(const PrefixedAddress &other) = default;
+OnvifNetworkInterface::PrefixedAddress::PrefixedAddress(PrefixedAddress &&other) noexcept = default;
+PrefixedAddress &OnvifNetworkInterface::PrefixedAddress::operator=(const PrefixedAddress &other) = default;
+PrefixedAddress &OnvifNetworkInterface::PrefixedAddress::operator=(PrefixedAddress &&other) noexcept = default;
+OnvifNetworkInterface::PrefixedAddress::~PrefixedAddress() = default;
+
+OnvifNetworkInterface::IPv4::Configuration::Configuration() = default;
+OnvifNetworkInterface::IPv4::Configuration::Configuration(const Configuration &other) = default;
+OnvifNetworkInterface::IPv4::Configuration::Configuration(Configuration &&other) noexcept = default;
+IPv4::Configuration &OnvifNetworkInterface::IPv4::Configuration::operator=(const Configuration &other) = default;
+IPv4::Configuration &OnvifNetworkInterface::IPv4::Configuration::operator=(Configuration &&other) noexcept = default;
+OnvifNetworkInterface::IPv4::Configuration::~Configuration() = default;
+
+OnvifNetworkInterface::IPv4::IPv4() = default;
+OnvifNetworkInterface::IPv4::IPv4(const IPv4 &other) = default;
+OnvifNetworkInterface::IPv4::IPv4(IPv4 &&other) noexcept = default;
+IPv4 &OnvifNetworkInterface::IPv4::operator=(const IPv4 &other) = default;
+IPv4 &OnvifNetworkInterface::IPv4::operator=(IPv4 &&other) noexcept = default;
+OnvifNetworkInterface::IPv4::~IPv4() = default;
+
+OnvifNetworkInterface::IPv6::Configuration::Configuration() = default;
+OnvifNetworkInterface::IPv6::Configuration::Configuration(const Configuration &other) = default;
+OnvifNetworkInterface::IPv6::Configuration::Configuration(Configuration &&other) noexcept = default;
+IPv6::Configuration &OnvifNetworkInterface::IPv6::Configuration::operator=(const Configuration &other) = default;
+IPv6::Configuration &OnvifNetworkInterface::IPv6::Configuration::operator=(Configuration &&other) noexcept = default;
+OnvifNetworkInterface::IPv6::Configuration::~Configuration() = default;
+
+OnvifNetworkInterface::IPv6::IPv6() = default;
+OnvifNetworkInterface::IPv6::IPv6(const IPv6 &other) = default;
+OnvifNetworkInterface::IPv6::IPv6(IPv6 &&other) noexcept = default;
+IPv6 &OnvifNetworkInterface::IPv6::operator=(const IPv6 &other) = default;
+IPv6 &OnvifNetworkInterface::IPv6::operator=(IPv6 &&other) noexcept = default;
+OnvifNetworkInterface::IPv6::~IPv6() = default;
+
+OnvifNetworkInterface::OnvifNetworkInterface() = default;
+
+OnvifNetworkInterface::OnvifNetworkInterface(const XmlResponseNode &node)
+    : OnvifDataStructure(node.element.isNull())
+    , token(node.element.attribute(u"token"_s))
+{
+    readChildren(node, {
+                           field("Enabled", enabled),
+                           nested("Info",
+                                  [this](const XmlResponseNode &child) {
+                                      readChildren(child, {
+                                                              field("Name", name),
+                                                              field("HwAddress", hwAddress),
+                                                              field("MTU", mtu),
+                                                          });
+                                  }),
+                           nested("Link",
+                                  [this](const XmlResponseNode &child) {
+                                      readChildren(child, {
+                                                              field("InterfaceType", interfaceType),
+                                                              field("AdminSettings", adminSettings),
+                                                              field("OperSettings", operSettings),
+                                                          });
+                                  }),
+                           field("IPv4", ipv4),
+                           field("IPv6", ipv6),
+                       });
+    // Each interface that is read is printed once; the text is of no use here.
+    (void)OnvifNetworkInterface::toString();
+}
+
+OnvifNetworkInterface::OnvifNetworkInterface(const OnvifNetworkInterface &other) = default;
+OnvifNetworkInterface::OnvifNetworkInterface(OnvifNetworkInterface &&other) noexcept = default;
+OnvifNetworkInterface &OnvifNetworkInterface::operator=(const OnvifNetworkInterface &other) = default;
+OnvifNetworkInterface &OnvifNetworkInterface::operator=(OnvifNetworkInterface &&other) noexcept = default;
+OnvifNetworkInterface::~OnvifNetworkInterface() = default;
+
+OnvifNetworkInterfaceVector::OnvifNetworkInterfaceVector() = default;
+
+OnvifNetworkInterfaceVector::OnvifNetworkInterfaceVector(const QByteArray &bytes, const QString &root)
+    : OnvifResponseStructure(bytes, root)
+{
+    appendElements(*this, u"/NetworkInterfaces"_s);
+}
+
+OnvifNetworkInterfaceVector::OnvifNetworkInterfaceVector(const OnvifNetworkInterfaceVector &other) = default;
+OnvifNetworkInterfaceVector::OnvifNetworkInterfaceVector(OnvifNetworkInterfaceVector &&other) noexcept = default;
+OnvifNetworkInterfaceVector &OnvifNetworkInterfaceVector::operator=(const OnvifNetworkInterfaceVector &other) = default;
+OnvifNetworkInterfaceVector &
+OnvifNetworkInterfaceVector::operator=(OnvifNetworkInterfaceVector &&other) noexcept = default;
+OnvifNetworkInterfaceVector::~OnvifNetworkInterfaceVector() = default;
+
+} // namespace vorn
+
+VORNSDK_ONVIF_DEFINE_LIST(vorn::OnvifNetworkInterface)

@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Fails if what the libraries export is not exactly what the list says.
+#
+# usage: exports.sh NM LIST LIBRARY...      compares with the file LIST
+#        exports.sh NM --print LIBRARY...   prints the list, to be committed with a change that is meant
+set -euo pipefail
+
+nm=$1
+list=$2
+shift 2
+
+# What a compiler may inline and then leave out, or not: a defaulted constructor, and what other operations call.
+optional='::QList\(\)$|::emplace<'
+
+exports() {
+    "$nm" --dynamic --defined-only --demangle "$@" | sed -nE 's/^[0-9a-f]+ [A-Za-z] (.*)@@VORNSDK_1$/\1/p' \
+        | grep -vE "$optional" | LC_ALL=C sort -u
+}
+
+if [ "$list" = --print ]; then
+    exports "$@"
+    exit
+fi
+
+exported=$(exports "$@")
+[ -n "$exported" ] || { echo "$*: no symbols found; are they shared libraries?" >&2; exit 2; }
+if ! diff --unified=0 --label "committed list" --label "exported" "$list" - <<<"$exported"; then
+    echo "What the libraries export has changed: - is missing now, + is new." >&2
+    exit 1
+fi
+
+# Symbols without the version of the libraries are not theirs to export.
+if "$nm" --dynamic --defined-only --demangle "$@" | grep -E '^[0-9a-f]+ ' | grep -vE '@@VORNSDK_1$| A VORNSDK_1$'; then
+    echo "The libraries export the above beside their own." >&2
+    exit 1
+fi
