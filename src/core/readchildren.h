@@ -10,7 +10,8 @@
 
 namespace vorn {
 
-/// What is read from the children of one name: made by field() or nested(), in the call of readChildren() only.
+/// What is read from the children of one name: made by field(), group() or nested(), in the call of readChildren()
+/// only.
 struct ChildReader
 {
     QLatin1StringView name;
@@ -44,6 +45,14 @@ ChildReader field(const char *name, Field &target)
 {
     return {QLatin1StringView(name), &target,
             [](const XmlResponseNode &child, void *value) { readValue(child, *static_cast<Field *>(value)); }};
+}
+
+/// The children of children called \a name are read by \a readers.
+inline ChildReader group(const char *name, std::initializer_list<ChildReader> &&readers)
+{
+    return {QLatin1StringView(name), &readers, [](const XmlResponseNode &child, void *group) {
+                readChildren(child, *static_cast<std::initializer_list<ChildReader> *>(group));
+            }};
 }
 
 /// Children called \a name are handed to \a read.

@@ -18,17 +18,12 @@ OnvifMetadataConfiguration::OnvifMetadataConfiguration(const XmlResponseNode &no
                            field("UseCount", useCount),
                            field("Analytics", analytics),
                            field("SessionTimeout", sessionTimeout),
-                           nested("PTZStatus",
-                                  [this](const XmlResponseNode &child) {
-                                      readChildren(child, {field("Status", ptzStatus), field("Position", ptzPosition)});
-                                  }),
-                           nested("Events",
-                                  [this](const XmlResponseNode &child) {
-                                      readChildren(child, {
-                                                              field("Filter", eventsFilter),
-                                                              field("SubscriptionPolicy", eventsSubscriptionPolicy),
-                                                          });
-                                  }),
+                           group("PTZStatus", {field("Status", ptzStatus), field("Position", ptzPosition)}),
+                           group("Events",
+                                 {
+                                     field("Filter", eventsFilter),
+                                     field("SubscriptionPolicy", eventsSubscriptionPolicy),
+                                 }),
                            field("AnalyticsEngineConfiguration", analyticsEngineConfiguration),
                        });
 }

@@ -29,14 +29,12 @@ OnvifVideoEncoderConfiguration::OnvifVideoEncoderConfiguration(const XmlResponse
                            field("UseCount", useCount),
                            field("Resolution", resolution),
                            field("Quality", quality),
-                           nested("RateControl",
-                                  [this](const XmlResponseNode &child) {
-                                      readChildren(child, {
-                                                              field("FrameRateLimit", frameRateLimit),
-                                                              field("EncodingInterval", encodingInterval),
-                                                              field("BitrateLimit", bitrateLimit),
-                                                          });
-                                  }),
+                           group("RateControl",
+                                 {
+                                     field("FrameRateLimit", frameRateLimit),
+                                     field("EncodingInterval", encodingInterval),
+                                     field("BitrateLimit", bitrateLimit),
+                                 }),
                            field("SessionTimeout", sessionTimeout),
                        });
 }

@@ -147,26 +147,22 @@ OnvifNetworkInterface::OnvifNetworkInterface(const XmlResponseNode &node)
 {
     readChildren(node, {
                            field("Enabled", enabled),
-                           nested("Info",
-                                  [this](const XmlResponseNode &child) {
-                                      readChildren(child, {
-                                                              field("Name", name),
-                                                              field("HwAddress", hwAddress),
-                                                              field("MTU", mtu),
-                                                          });
-                                  }),
-                           nested("Link",
-                                  [this](const XmlResponseNode &child) {
-                                      readChildren(child, {
-                                                              field("InterfaceType", interfaceType),
-                                                              field("AdminSettings", adminSettings),
-                                                              field("OperSettings", operSettings),
-                                                          });
-                                  }),
+                           group("Info",
+                                 {
+                                     field("Name", name),
+                                     field("HwAddress", hwAddress),
+                                     field("MTU", mtu),
+                                 }),
+                           group("Link",
+                                 {
+                                     field("InterfaceType", interfaceType),
+                                     field("AdminSettings", adminSettings),
+                                     field("OperSettings", operSettings),
+                                 }),
                            field("IPv4", ipv4),
                            field("IPv6", ipv6),
                        });
-    // Each interface that is read is printed once; the text is of no use here.
+    // Reading includes one printing. It has no effect on the record.
     (void)OnvifNetworkInterface::toString();
 }
 

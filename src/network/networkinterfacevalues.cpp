@@ -168,7 +168,7 @@ unsigned int qHash(const IPv6 &ipv6)
     return hashOf(ipv6.enabled, ipv6.config);
 }
 
-// Wider than operator==, so that a container that hashes tells interfaces apart by content.
+// Wider than operator==: it follows the content, not the identity.
 unsigned int qHash(const OnvifNetworkInterface &networkInterface)
 {
     return hashOf(networkInterface.name, networkInterface.token, networkInterface.enabled, networkInterface.hwAddress,

@@ -29,13 +29,11 @@ OnvifRelayOutput::OnvifRelayOutput(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
     , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {nested("Properties", [this](const XmlResponseNode &child) {
-                     readChildren(child, {
-                                             field("Mode", mode),
-                                             field("DelayTime", delayTime),
-                                             field("IdleState", idleState),
-                                         });
-                 })});
+    readChildren(node, {group("Properties", {
+                                                field("Mode", mode),
+                                                field("DelayTime", delayTime),
+                                                field("IdleState", idleState),
+                                            })});
 }
 
 OnvifRelayOutput::OnvifRelayOutput(const OnvifRelayOutput &other) = default;

@@ -21,9 +21,10 @@
 namespace {
 
 enum ExitCode : int {
-    Read = 0,        ///< A record was read.
-    NothingRead = 1, ///< The reply is a fault or holds nothing that the library reads.
-    CannotRun = 2,   ///< The command line is wrong or a file cannot be read.
+    Read = 0, ///< A record was read.
+    NothingRead =
+        1,         ///< The reply is a fault or holds nothing that the library reads, or of which a request can be made.
+    CannotRun = 2, ///< The command line is wrong or a file cannot be read.
 };
 
 void print(std::FILE *stream, const QString &text)
@@ -40,8 +41,8 @@ void complain(const QString &text)
 
 void complainAbout(const QFile &file)
 {
-    complain(QStringLiteral("cannot read \"%1\": %2. Check the name and the permissions.")
-                 .arg(inspect::printable(file.fileName()), file.errorString()));
+    complain(QStringLiteral("cannot read %1: %2. Check the name and the permissions.")
+                 .arg(inspect::quoted(file.fileName()), file.errorString()));
 }
 
 bool isOutputATerminal()
@@ -95,8 +96,8 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Shows what is in replies of ONVIF devices.\n\n"
-                       "Exit codes: 0 all replies were read; 1 one is a fault or holds nothing that can be read;\n"
-                       "2 the command line is wrong or a file cannot be read."));
+                       "Exit codes: 0 all replies were read; 1 one is a fault, or holds nothing that can be read or,\n"
+                       "with --request, be set; 2 the command line is wrong or a file cannot be read."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      QStringLiteral("Shows the version."));
@@ -156,9 +157,10 @@ int main(int argc, char **argv)
         const inspect::Reply reply = inspect::read(bytes, actionName.constData());
         const QString heading = fileNames.size() > 1 ? inspect::printable(fileName) + QLatin1String(": ") : QString();
         if (parser.isSet(request)) {
-            for (const QString &fragment : reply.requests)
+            const QStringList fragments = reply.requests ? reply.requests() : QStringList();
+            for (const QString &fragment : fragments)
                 print(stdout, (isOutputATerminal() ? inspect::printable(fragment) : fragment) + QLatin1Char('\n'));
-            if (reply.requests.isEmpty()) {
+            if (fragments.isEmpty()) {
                 complain(inspect::printable(fileName) + QLatin1String(" (") + inspect::printable(reply.kind)
                          + QLatin1String("): it holds nothing of which a request can be made."));
                 exitCode = std::max<int>(exitCode, NothingRead);

@@ -4,6 +4,8 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QLocale>
 
+#include <string_view>
+
 namespace inspect {
 namespace {
 
@@ -19,6 +21,39 @@ Overloaded(Functions...) -> Overloaded<Functions...>;
 QString lineStart(int depth)
 {
     return QLatin1Char('\n') + QString(qsizetype(2) * depth, QLatin1Char(' '));
+}
+
+/// Escapes what is not harmless on a terminal, and the characters of \a others.
+QString escaped(const QString &text, std::u32string_view others)
+{
+    const auto isHarmless = [](char32_t character) {
+        switch (QChar::category(character)) {
+        case QChar::Other_Control:
+        case QChar::Other_Format:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            return false;
+        default:
+            return true;
+        }
+    };
+    QString result;
+    result.reserve(text.size());
+    for (const char32_t character : text.toUcs4()) {
+        if (character == U'\n')
+            result += QLatin1String("\\n");
+        else if (character == U'\r')
+            result += QLatin1String("\\r");
+        else if (character == U'\t')
+            result += QLatin1String("\\t");
+        else if (others.find(character) != std::u32string_view::npos)
+            result += QLatin1Char('\\') + QChar(static_cast<char16_t>(character));
+        else if (isHarmless(character))
+            result += QString::fromUcs4(&character, 1);
+        else
+            result += QStringLiteral("\\u%1").arg(static_cast<uint>(character), 4, 16, QLatin1Char('0'));
+    }
+    return result;
 }
 
 } // namespace
@@ -88,7 +123,7 @@ QString Outline::toLines(const Palette &palette, int depth) const
             [](int value) { return QLatin1Char(' ') + QString::number(value); },
             [](unsigned int value) { return QLatin1Char(' ') + QString::number(value); },
             [](double value) { return QLatin1Char(' ') + QString::number(value, 'g', QLocale::FloatingPointShortest); },
-            [](const QString &value) -> QString { return QLatin1String(" \"") + printable(value) + QLatin1Char('"'); },
+            [](const QString &value) -> QString { return QLatin1Char(' ') + quoted(value); },
             fieldLines,
             listLines,
         },
@@ -121,34 +156,12 @@ QJsonValue Outline::toJson() const
 
 QString printable(const QString &text)
 {
-    const auto isHarmless = [](char32_t character) {
-        switch (QChar::category(character)) {
-        case QChar::Other_Control:
-        case QChar::Other_Format:
-        case QChar::Separator_Line:
-        case QChar::Separator_Paragraph:
-            return false;
-        default:
-            return true;
-        }
-    };
-    QString result;
-    result.reserve(text.size());
-    for (const char32_t character : text.toUcs4()) {
-        if (character == U'\n')
-            result += QLatin1String("\\n");
-        else if (character == U'\r')
-            result += QLatin1String("\\r");
-        else if (character == U'\t')
-            result += QLatin1String("\\t");
-        else if (character == U'"' || character == U'\\')
-            result += QLatin1Char('\\') + QChar(static_cast<char16_t>(character));
-        else if (isHarmless(character))
-            result += QString::fromUcs4(&character, 1);
-        else
-            result += QStringLiteral("\\u%1").arg(static_cast<uint>(character), 4, 16, QLatin1Char('0'));
-    }
-    return result;
+    return escaped(text, U"");
+}
+
+QString quoted(const QString &text)
+{
+    return QLatin1Char('"') + escaped(text, U"\"\\") + QLatin1Char('"');
 }
 
 } // namespace inspect

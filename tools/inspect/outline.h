@@ -47,4 +47,7 @@ private:
 /// \a text with all that could disturb or deceive on a terminal written as an escape sequence.
 QString printable(const QString &text);
 
+/// The same in quotation marks, with those of the text escaped too.
+QString quoted(const QString &text);
+
 } // namespace inspect

@@ -116,7 +116,7 @@ Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
     const QString root = QLatin1String("/Envelope/Body/") + element;
     Reply reply{element, reader->read(bytes, root), {}};
     if (reader->requests)
-        reply.requests = reader->requests(bytes, root);
+        reply.requests = [=] { return reader->requests(bytes, root); };
     return reply;
 }
 

@@ -6,6 +6,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace inspect {
@@ -24,9 +25,9 @@ struct Reply
 
     bool isFault = false;
 
-    /// The record, or each record of the list, as a part of a request that sets it; none if the library has no such
-    /// form.
-    QStringList requests = {};
+    /// Gives the record, or each record of the list, as a part of a request that sets it. Empty if the library has no
+    /// such form.
+    std::function<QStringList()> requests = {};
 };
 
 /// Reads the reply \a bytes to the request \a action, which must outlive the call only.

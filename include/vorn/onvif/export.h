@@ -13,8 +13,9 @@
 #define VORNSDK_ONVIF_EXPORT Q_DECL_IMPORT
 #endif
 
-// The library holds all of QList for its records, for programs that look its functions up. Programs that are compiled
-// against these headers do not depend on that: their Qt may be a newer one, with a richer QList.
+// The library holds the members of QList for its records, all that are no templates themselves, for programs that look
+// them up. Programs that are compiled against these headers do not depend on that: their Qt may be a newer one, with a
+// richer QList.
 #if defined(VORNSDK_ONVIF_BUILD) && !defined(Q_OS_WIN)
 #define VORNSDK_ONVIF_DECLARE_LIST(Element)                                                                            \
     QT_BEGIN_NAMESPACE                                                                                                 \

@@ -17,7 +17,8 @@ namespace vorn {
 ///
 /// Each field is read from one element below that of the interface. Names and texts are compared case-sensitively, and
 /// elements of other names are ignored. An element that occurs several times is read each time: its values replace
-/// those read before, and entries are added to a list. An element that is missing leaves the default.
+/// those read before, and entries are added to a list; an address entry replaces a whole one. An element that is
+/// missing leaves the default.
 ///
 /// A boolean is true for the text "true" alone, so not for "1"; any other text makes it false. A number is 0 if the
 /// text is no decimal number that an int can hold. A text that an enumeration does not know leaves it as it was.
@@ -36,7 +37,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
 
         bool present = false;         ///< Whether there is an element with these settings, whatever it holds.
         bool autoNegotiation = false; ///< Whether the ends agree on the settings, from "AutoNegotiation".
-        int speed = 0;                ///< Speed as the device tells it, in Mbit/s by ONVIF, from "Speed".
+        int speed = 0;                ///< Speed as the device sends it; ONVIF means Mbit/s. From "Speed".
         Duplex duplex = Full;         ///< From "Duplex".
 
         /// Settings that are not present.
@@ -167,12 +168,13 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
         bool operator!=(const IPv6 &other) const;
     };
 
-    QString name;               ///< Name, such as "eth0", from "Name" of "Info".
-    QString token;              ///< Identity, from the attribute "token".
-    bool enabled = false;       ///< Whether the interface is on, from "Enabled".
-    QString hwAddress;          ///< Hardware address, verbatim, from "HwAddress" of "Info".
-    int mtu = 1500;             ///< The most bytes in a packet, from "MTU" of "Info".
-    int interfaceType = 0;      ///< Type by its IANA number, such as 6 for Ethernet, from "InterfaceType" of "Link".
+    QString name;         ///< Name, such as "eth0", from "Name" of "Info".
+    QString token;        ///< Identity, from the attribute "token".
+    bool enabled = false; ///< Whether the interface is on, from "Enabled".
+    QString hwAddress;    ///< Hardware address, verbatim, from "HwAddress" of "Info".
+    int mtu = 1500;       ///< The most bytes in a packet, from "MTU" of "Info".
+    int interfaceType =
+        0; ///< Type as the device sends it; ONVIF means the IANA number. From "InterfaceType" of "Link".
     LinkSettings adminSettings; ///< The link as configured, from "AdminSettings" of "Link".
     LinkSettings operSettings;  ///< The link as in operation, from "OperSettings" of "Link".
     IPv4 ipv4;                  ///< The IPv4 side.
@@ -202,8 +204,8 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
     bool operator!=(const OnvifNetworkInterface &other) const;
 };
 
-// The hash of each record follows its content. It is the same in every process and depends on the version of Qt only in
-// how Qt hashes a text.
+// The hash of each record follows its content. It is the same in every process; through Qt's hash of texts it depends
+// on the version of Qt and on the platform.
 
 /// A hash over `address` and `prefixLength`.
 VORNSDK_ONVIF_EXPORT unsigned int qHash(const OnvifNetworkInterface::PrefixedAddress &address);
@@ -226,8 +228,8 @@ VORNSDK_ONVIF_EXPORT unsigned int qHash(const OnvifNetworkInterface::IPv6 &ipv6)
 
 /// A hash over all fields but `interfaceType`.
 ///
-/// Interfaces that are equal, as their tokens are, have in general different hashes: a QSet or QHash of interfaces
-/// tells them apart by content.
+/// Interfaces that are equal, as their tokens are, have in general different hashes. Whether a QSet or QHash takes two
+/// of them for one is a matter of chance: use one only for interfaces of different tokens.
 VORNSDK_ONVIF_EXPORT unsigned int qHash(const OnvifNetworkInterface &networkInterface);
 
 /// The name of \a dhcp for the user, translated by the catalogues that the application has installed for the context

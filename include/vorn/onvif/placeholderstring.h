@@ -37,7 +37,7 @@ public:
     PlaceHolderString &arg(const std::string &value);
     PlaceHolderString &arg(const QString &value); ///< Filled in as UTF-8.
 
-    /// A number in plain decimal.
+    /// A number in plain decimal, as a stream with the global C++ locale writes it.
     PlaceHolderString &arg(short value);
     PlaceHolderString &arg(unsigned short value); ///< \copybrief arg(short)
     PlaceHolderString &arg(int value);            ///< \copybrief arg(short)

@@ -16,7 +16,8 @@ namespace vorn {
 /// A relay output of a device and how it behaves.
 ///
 /// All fields but the token are read from "Properties". Names and texts are compared case-sensitively, other elements
-/// are ignored, and of several elements with one name the last counts. An element that is missing leaves the default.
+/// are ignored. Each "Properties" is read, and of several elements with one name in them the last counts. An element
+/// that is missing leaves the default.
 struct VORNSDK_ONVIF_EXPORT OnvifRelayOutput : OnvifDataStructure
 {
     /// What happens after the relay has been switched.
