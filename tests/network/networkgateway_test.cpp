@@ -8,6 +8,7 @@
 #include <type_traits>
 
 using vorn::OnvifNetworkGateway;
+using namespace Qt::StringLiterals;
 
 static_assert(std::is_base_of_v<vorn::OnvifDataStructure, OnvifNetworkGateway>);
 static_assert(!std::is_base_of_v<vorn::OnvifResponseStructure, OnvifNetworkGateway>);
@@ -164,8 +165,8 @@ TEST(OnvifNetworkGatewayToString, writesEachAddressThatIsNotEmpty)
 
 TEST(OnvifNetworkGatewayToString, escapesAndExpandsNothing)
 {
-    EXPECT_EQ(printed("<&>$@", u"\u00E9 $ @"_qs),
-              u"<tt:IPv4Address><&>$@</tt:IPv4Address><tt:IPv6Address>\u00E9 $ @</tt:IPv6Address>"_qs);
+    EXPECT_EQ(printed("<&>$@", u"\u00E9 $ @"_s),
+              u"<tt:IPv4Address><&>$@</tt:IPv4Address><tt:IPv6Address>\u00E9 $ @</tt:IPv6Address>"_s);
 }
 
 TEST(OnvifNetworkGatewayToString, fitsIntoARequest)

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <cstddef>
 #include <iterator>
 #include <type_traits>
@@ -200,9 +201,11 @@ TEST(OnvifNetworkInterface, isNullByDefault)
 TEST(OnvifNetworkInterface, hasItsFieldsInOrder)
 {
     LinkSettings settings;
+    settings.present = true;
     settings.speed = 10;
     const auto &[present, autoNegotiation, speed, duplex] = settings;
-    EXPECT_FALSE(present || autoNegotiation);
+    EXPECT_TRUE(present);
+    EXPECT_FALSE(autoNegotiation);
     EXPECT_EQ(speed, 10);
     EXPECT_EQ(duplex, LinkSettings::Full);
 
@@ -275,6 +278,21 @@ TEST(OnvifNetworkInterface, ofAMissingNodeIsNull)
     expectDefaults(record);
 }
 
+TEST(OnvifNetworkInterface, ofANullElementIsNullThoughItsNodeIsValid)
+{
+    XmlResponseNode node;
+    node.valid = true;
+    EXPECT_TRUE(OnvifNetworkInterface(node).isNull());
+}
+
+TEST(OnvifNetworkInterface, ofAnElementIsNotNullThoughItsNodeIsNotValid)
+{
+    XmlResponse response("<NetworkInterfaces token='token-0'>" + wholeContent + "</NetworkInterfaces>", QString());
+    XmlResponseNode node = response.get("/NetworkInterfaces");
+    node.valid = false;
+    expectWhole(OnvifNetworkInterface(node));
+}
+
 TEST(OnvifNetworkInterface, isPrintedOnceWhileItIsRead)
 {
     XmlResponse response("<r/>", QString());
@@ -312,6 +330,26 @@ TEST(OnvifNetworkInterface, textsAreVerbatim)
     EXPECT_EQ(record.name, " eth<0 ");
     EXPECT_EQ(record.hwAddress, "02-00-5E\n");
     EXPECT_EQ(record.ipv4.config.linkLocal.address, " any text ");
+}
+
+TEST(OnvifNetworkInterface, textsAreThoseOfTheWholeElement)
+{
+    const auto read = [](const QByteArray &content) {
+        const OnvifNetworkInterface record = interfaceWith("<Info><Name>" + content + "</Name><HwAddress>" + content
+                                                           + "</HwAddress></Info><IPv4><Config><Manual><Address>"
+                                                           + content + "</Address></Manual></Config></IPv4>");
+        EXPECT_EQ(record.hwAddress, record.name);
+        EXPECT_EQ(record.ipv4.config.manual.constFirst().address, record.name);
+        return record.name;
+    };
+    EXPECT_EQ(read("e<b>th</b>0"), "eth0");
+    EXPECT_EQ(read("<b>eth</b>0"), "eth0");
+    EXPECT_EQ(read("<b>eth<i>0</i></b>"), "eth0");
+    EXPECT_EQ(read("et<![CDATA[h0]]>"), "eth0");
+    EXPECT_EQ(read("<![CDATA[<eth0>]]>"), "<eth0>");
+    EXPECT_EQ(read("eth<!-- 1 -->0"), "eth0");
+    EXPECT_EQ(read("eth<?x 1?>0"), "eth0");
+    EXPECT_EQ(read(" e <b> th </b> 0 "), " e  th  0 ");
 }
 
 TEST(OnvifNetworkInterface, namesAreComparedCaseSensitively)
@@ -401,6 +439,21 @@ TEST(OnvifNetworkInterfaceBoolean, isTrueForTheWordAlone)
     }
 }
 
+TEST(OnvifNetworkInterfaceBoolean, isReadFromTheWholeElement)
+{
+    for (const BooleanRow &row : booleans) {
+        const auto read = [&row](const QByteArray &content) {
+            const QByteArray name = row.element;
+            return row.read(interfaceWith(row.before + ("<" + name + ">" + content + "</" + name + ">") + row.after));
+        };
+        for (const char *content : {"t<b>ru</b>e", "<b>true</b>", "<b>t<i>r</i></b>ue", "tr<![CDATA[ue]]>",
+                                    "<![CDATA[true]]>", "t<!-- -->rue", "<!-- false -->true", "tru<?x y?>e"})
+            EXPECT_TRUE(read(content)) << row.before << row.element << ' ' << content;
+        for (const char *content : {"true<b>1</b>", "<b>x</b>true", "true<![CDATA[ ]]>", "<b/>", "<!-- true -->"})
+            EXPECT_FALSE(read(content)) << row.before << row.element << ' ' << content;
+    }
+}
+
 TEST(OnvifNetworkInterfaceBoolean, followsItsLastElement)
 {
     for (const BooleanRow &row : booleans) {
@@ -452,9 +505,23 @@ const NumberRow numbers[] = {
 TEST(OnvifNetworkInterfaceNumber, isZeroForWhatIsNoDecimalInteger)
 {
     const std::pair<const char *, int> rows[] = {
-        {"7", 7},          {"-24", -24}, {"2147483647", 2147483647},
-        {"2147483648", 0}, {"0x10", 0},  {"007", 7},
-        {"many", 0},       {"1.5", 0},   {"12 Mbit", 0},
+        {"7", 7},
+        {"-24", -24},
+        {"2147483647", 2147483647},
+        {"2147483648", 0},
+        {"-2147483648", INT_MIN},
+        {"-2147483649", 0},
+        {"0x10", 0},
+        {"007", 7},
+        {"many", 0},
+        {"1.5", 0},
+        {"12 Mbit", 0},
+        {"1,500", 0},
+        {"1 500", 0},
+        {"1e3", 0},
+        {"- 7", 0},
+        {"--7", 0},
+        {" ", 0},
         {"", 0},
     };
     for (const NumberRow &row : numbers) {
@@ -463,6 +530,38 @@ TEST(OnvifNetworkInterfaceNumber, isZeroForWhatIsNoDecimalInteger)
             EXPECT_EQ(row.read(interfaceWith(row.before + ("<" + name + ">" + text + "</" + name + ">") + row.after)),
                       expected)
                 << row.before << row.element << ' ' << text;
+        }
+    }
+}
+
+TEST(OnvifNetworkInterfaceNumber, mayHaveWhiteSpaceAroundItAndASign)
+{
+    const std::pair<const char *, int> rows[] = {
+        {" 7 ", 7}, {"\n7\t", 7}, {" -24\n", -24}, {"+7", 7}, {" +7", 7},
+    };
+    for (const NumberRow &row : numbers) {
+        for (const auto &[text, expected] : rows) {
+            const QByteArray name = row.element;
+            EXPECT_EQ(row.read(interfaceWith(row.before + ("<" + name + ">" + text + "</" + name + ">") + row.after)),
+                      expected)
+                << row.before << row.element << ' ' << text;
+        }
+    }
+}
+
+TEST(OnvifNetworkInterfaceNumber, isReadFromTheWholeElement)
+{
+    const std::pair<const char *, int> rows[] = {
+        {"1<b>40</b>0", 1400},    {"<b>1400</b>", 1400}, {"14<![CDATA[00]]>", 1400}, {"<![CDATA[1400]]>", 1400},
+        {"14<!-- 5 -->00", 1400}, {"14<?x 5?>00", 1400}, {"1400<b>x</b>", 0},
+    };
+    for (const NumberRow &row : numbers) {
+        for (const auto &[content, expected] : rows) {
+            const QByteArray name = row.element;
+            EXPECT_EQ(
+                row.read(interfaceWith(row.before + ("<" + name + ">" + content + "</" + name + ">") + row.after)),
+                expected)
+                << row.before << row.element << ' ' << content;
         }
     }
 }
@@ -532,6 +631,19 @@ TEST(OnvifNetworkInterfaceLink, duplexIsReadByItsText)
         EXPECT_EQ(read(unknown), LinkSettings::Full) << text;
         EXPECT_EQ(read("<Duplex>Half</Duplex>" + unknown), LinkSettings::Half) << text;
     }
+}
+
+TEST(OnvifNetworkInterfaceLink, duplexIsReadFromTheWholeElement)
+{
+    const auto read = [](const QByteArray &content) {
+        return interfaceWith("<Link><AdminSettings><Duplex>" + content + "</Duplex></AdminSettings></Link>")
+            .adminSettings.duplex;
+    };
+    for (const char *content :
+         {"H<b>al</b>f", "<b>Half</b>", "Ha<![CDATA[lf]]>", "<![CDATA[Half]]>", "H<!-- -->alf", "Hal<?x y?>f"})
+        EXPECT_EQ(read(content), LinkSettings::Half) << content;
+    for (const char *content : {"Half<b>x</b>", "<b>x</b>Half", "Half<![CDATA[ ]]>", "<!-- Half -->"})
+        EXPECT_EQ(read(content), LinkSettings::Full) << content;
 }
 
 TEST(OnvifNetworkInterfaceLink, aSecondElementReplacesOnlyWhatItHolds)
@@ -622,6 +734,17 @@ TEST(OnvifNetworkInterfaceIPv6, dhcpIsReadByItsText)
         EXPECT_EQ(read(unknown), IPv6::Configuration::Auto) << text;
         EXPECT_EQ(read("<DHCP>Off</DHCP>" + unknown), IPv6::Configuration::Off) << text;
     }
+}
+
+TEST(OnvifNetworkInterfaceIPv6, dhcpIsReadFromTheWholeElement)
+{
+    const auto read = [](const QByteArray &content) {
+        return interfaceWith("<IPv6><Config><DHCP>" + content + "</DHCP></Config></IPv6>").ipv6.config.dhcp;
+    };
+    EXPECT_EQ(read("State<b>ful</b>"), IPv6::Configuration::Stateful);
+    EXPECT_EQ(read("State<![CDATA[less]]>"), IPv6::Configuration::Stateless);
+    EXPECT_EQ(read("O<!-- -->ff"), IPv6::Configuration::Off);
+    EXPECT_EQ(read("Off<b>x</b>"), IPv6::Configuration::Auto);
 }
 
 TEST(OnvifNetworkInterface, isCopiedMovedAndAssigned)
@@ -715,6 +838,14 @@ TEST(OnvifNetworkInterfaceVector, isEmptyByDefault)
     EXPECT_TRUE(list.isEmpty());
     EXPECT_TRUE(list.xml.isEmpty());
     EXPECT_FALSE(list.response.get("/Envelope").valid);
+}
+
+TEST(OnvifNetworkInterfaceVector, isAListFirstAndAResponseAfterIt)
+{
+    const OnvifNetworkInterfaceVector list;
+    const void *const start = &list;
+    EXPECT_EQ(static_cast<const void *>(static_cast<const QList<OnvifNetworkInterface> *>(&list)), start);
+    EXPECT_GT(static_cast<const void *>(static_cast<const vorn::OnvifResponseStructure *>(&list)), start);
 }
 
 TEST(OnvifNetworkInterfaceVector, readsEachInterfaceInOrder)

@@ -22,6 +22,7 @@ using IPv4 = OnvifNetworkInterface::IPv4;
 using IPv6 = OnvifNetworkInterface::IPv6;
 using LinkSettings = OnvifNetworkInterface::LinkSettings;
 using PrefixedAddress = OnvifNetworkInterface::PrefixedAddress;
+using namespace Qt::StringLiterals;
 
 static_assert(std::is_same_v<decltype(qHash(std::declval<const PrefixedAddress &>())), unsigned int>);
 static_assert(std::is_same_v<decltype(qHash(std::declval<const LinkSettings &>())), unsigned int>);
@@ -194,6 +195,23 @@ TEST(NetworkInterfaceEquality, ofAnIPv6ConfigurationIsByAllFields)
     EXPECT_EQ(qHash(manual), qHash(fromRA));
 }
 
+TEST(NetworkInterfaceEquality, ofAnIPv6ConfigurationIsByTheOrderOfEachList)
+{
+    using Record = IPv6::Configuration;
+    Record config;
+    config.manual = {addressOf("2001:db8::1", 64), addressOf("2001:db8::2", 64)};
+    config.linkLocal = {addressOf("fe80::3", 64), addressOf("fe80::4", 64)};
+    config.fromDHCP = {addressOf("2001:db8::5", 64), addressOf("2001:db8::6", 64)};
+    config.fromRA = {addressOf("2001:db8::7", 64), addressOf("2001:db8::8", 64)};
+    expectChanges<Record>(
+        config, {
+                    {"order of manual", [](Record &record) { record.manual.swapItemsAt(0, 1); }, true, true},
+                    {"order of linkLocal", [](Record &record) { record.linkLocal.swapItemsAt(0, 1); }, true, true},
+                    {"order of fromDHCP", [](Record &record) { record.fromDHCP.swapItemsAt(0, 1); }, true, true},
+                    {"order of fromRA", [](Record &record) { record.fromRA.swapItemsAt(0, 1); }, true, true},
+                });
+}
+
 TEST(NetworkInterfaceEquality, ofEachSideIsByBothFields)
 {
     expectChanges<IPv4>(someIPv4(), {
@@ -308,7 +326,7 @@ TEST(NetworkInterfaceHash, ofAnAddressFoldsItsFieldsInOrder)
     EXPECT_EQ(qHash(PrefixedAddress()), folded({hashOfText(""), hashOf0}));
     EXPECT_EQ(qHash(addressOf("192.0.2.10", 24)), folded({hashOfText("192.0.2.10"), hashOf24}));
     EXPECT_EQ(qHash(addressOf("192.0.2.10", -24)), folded({hashOfText("192.0.2.10"), hashOfMinus24}));
-    EXPECT_EQ(qHash(addressOf(u"\u00E9\u4E2D"_qs, 64)), folded({hashOfText(u"\u00E9\u4E2D"_qs), hashOf64}));
+    EXPECT_EQ(qHash(addressOf(u"\u00E9\u4E2D"_s, 64)), folded({hashOfText(u"\u00E9\u4E2D"_s), hashOf64}));
 }
 
 TEST(NetworkInterfaceHash, ofAnIPv4ConfigurationStartsWithDhcp)
@@ -462,6 +480,42 @@ TEST(NetworkInterfaceToString, writesTheIPv4SideAlsoIfItIsOff)
                     "</tds:NetworkInterface>");
 }
 
+TEST(NetworkInterfaceToString, writesManualAddressesAlsoWithDhcpOnAndIPv4Off)
+{
+    OnvifNetworkInterface record;
+    record.ipv4.config.dhcp = true;
+    record.ipv4.config.manual = {addressOf("192.0.2.1", 24), addressOf("192.0.2.2", 25)};
+    EXPECT_EQ(record.toString(),
+              start + afterName
+                  + "false</tt:Enabled><tt:IPv4><tt:Enabled>false</tt:Enabled>"
+                    "<tt:Manual><tt:Address>192.0.2.1</tt:Address><tt:PrefixLength>24</tt:PrefixLength></tt:Manual>"
+                    "<tt:Manual><tt:Address>192.0.2.2</tt:Address><tt:PrefixLength>25</tt:PrefixLength></tt:Manual>"
+                    "<tt:DHCP>true</tt:DHCP></tt:IPv4></tds:NetworkInterface>");
+}
+
+TEST(NetworkInterfaceToString, writesAnEmptyManualAddress)
+{
+    OnvifNetworkInterface record;
+    record.ipv4.config.manual = {PrefixedAddress()};
+    EXPECT_EQ(record.toString(),
+              start + afterName
+                  + "false</tt:Enabled><tt:IPv4><tt:Enabled>false</tt:Enabled>"
+                    "<tt:Manual><tt:Address></tt:Address><tt:PrefixLength>0</tt:PrefixLength></tt:Manual>"
+                    "<tt:DHCP>false</tt:DHCP></tt:IPv4></tds:NetworkInterface>");
+}
+
+TEST(NetworkInterfaceToString, keepsOuterWhiteSpace)
+{
+    OnvifNetworkInterface record;
+    record.name = " eth0\n";
+    record.ipv4.config.manual = {addressOf("\t192.0.2.1 ", 24)};
+    EXPECT_EQ(record.toString(),
+              start + " eth0\n" + afterName
+                  + "false</tt:Enabled><tt:IPv4><tt:Enabled>false</tt:Enabled>"
+                    "<tt:Manual><tt:Address>\t192.0.2.1 </tt:Address><tt:PrefixLength>24</tt:PrefixLength></tt:Manual>"
+                    "<tt:DHCP>false</tt:DHCP></tt:IPv4></tds:NetworkInterface>");
+}
+
 TEST(NetworkInterfaceToString, leavesOutAllElse)
 {
     OnvifNetworkInterface record;
@@ -482,14 +536,14 @@ TEST(NetworkInterfaceToString, leavesOutAllElse)
 TEST(NetworkInterfaceToString, escapesAndExpandsNothing)
 {
     OnvifNetworkInterface record;
-    record.name = u"a&b<c>\"$@\" \u00E9\u4E2D"_qs;
+    record.name = u"a&b<c>\"$@\" \u00E9\u4E2D"_s;
     record.ipv4.config.manual = {addressOf("$@&<", 1), addressOf("@$", 2)};
     EXPECT_EQ(record.toString(),
               u"<tds:InterfaceToken>a&b<c>\"$@\" \u00E9\u4E2D</tds:InterfaceToken><tds:NetworkInterface>"
               "<tt:Enabled>false</tt:Enabled><tt:IPv4><tt:Enabled>false</tt:Enabled>"
               "<tt:Manual><tt:Address>$@&<</tt:Address><tt:PrefixLength>1</tt:PrefixLength></tt:Manual>"
               "<tt:Manual><tt:Address>@$</tt:Address><tt:PrefixLength>2</tt:PrefixLength></tt:Manual>"
-              "<tt:DHCP>false</tt:DHCP></tt:IPv4></tds:NetworkInterface>"_qs);
+              "<tt:DHCP>false</tt:DHCP></tt:IPv4></tds:NetworkInterface>"_s);
 }
 
 TEST(NetworkInterfaceToString, isCalledThroughTheBase)

@@ -103,6 +103,21 @@ TEST(OnvifRelayOutput, ofAMissingNodeIsNull)
     expectDefaults(relay);
 }
 
+TEST(OnvifRelayOutput, ofANullElementIsNullThoughItsNodeIsValid)
+{
+    XmlResponseNode node;
+    node.valid = true;
+    EXPECT_TRUE(OnvifRelayOutput(node).isNull());
+}
+
+TEST(OnvifRelayOutput, ofAnElementIsNotNullThoughItsNodeIsNotValid)
+{
+    XmlResponse response("<RelayOutputs token='relay-0'>" + wholeContent + "</RelayOutputs>", QString());
+    XmlResponseNode node = response.get("/RelayOutputs");
+    node.valid = false;
+    expectWhole(OnvifRelayOutput(node));
+}
+
 TEST(OnvifRelayOutput, withoutPropertiesHasItsTokenOnly)
 {
     const OnvifRelayOutput relay = relayWith("", "token='relay-0'");
@@ -153,6 +168,40 @@ TEST(OnvifRelayOutput, idleStateIsClosedUnlessTheTextIsOpen)
         EXPECT_EQ(read(other), OnvifRelayOutput::Closed) << text;
         EXPECT_EQ(read("<IdleState>open</IdleState>" + other), OnvifRelayOutput::Closed) << text;
     }
+}
+
+TEST(OnvifRelayOutput, modeIsReadFromTheWholeElement)
+{
+    const auto read = [](const QByteArray &content) {
+        return relayWithProperties("<Mode>" + content + "</Mode>").mode;
+    };
+    for (const char *content : {"Bi<b>stab</b>le", "<b>Bistable</b>", "Bi<![CDATA[stable]]>", "<![CDATA[Bistable]]>",
+                                "B<!-- -->istable", "Bistabl<?x y?>e"})
+        EXPECT_EQ(read(content), OnvifRelayOutput::Bistable) << content;
+    for (const char *content : {"Bistable<b>x</b>", "<b>x</b>Bistable", "Bistable<![CDATA[ ]]>", "<!-- Bistable -->"})
+        EXPECT_EQ(read(content), OnvifRelayOutput::Monostable) << content;
+}
+
+TEST(OnvifRelayOutput, idleStateIsReadFromTheWholeElement)
+{
+    const auto read = [](const QByteArray &content) {
+        return relayWithProperties("<IdleState>" + content + "</IdleState>").idleState;
+    };
+    for (const char *content :
+         {"o<b>pe</b>n", "<b>open</b>", "op<![CDATA[en]]>", "<![CDATA[open]]>", "o<!-- -->pen", "ope<?x y?>n"})
+        EXPECT_EQ(read(content), OnvifRelayOutput::Open) << content;
+    for (const char *content : {"open<b>ed</b>", "<b>re</b>open", "open<![CDATA[ ]]>", "<!-- open -->"})
+        EXPECT_EQ(read(content), OnvifRelayOutput::Closed) << content;
+}
+
+TEST(OnvifRelayOutput, delayTimeIsTheTextOfTheWholeElement)
+{
+    const auto read = [](const QByteArray &content) {
+        return relayWithProperties("<DelayTime>" + content + "</DelayTime>").delayTime;
+    };
+    EXPECT_EQ(read("P<b>T5</b>S"), "PT5S");
+    EXPECT_EQ(read("PT<![CDATA[5S]]>"), "PT5S");
+    EXPECT_EQ(read("PT<!-- 1 -->5S"), "PT5S");
 }
 
 TEST(OnvifRelayOutput, theLastElementCounts)
@@ -228,6 +277,14 @@ TEST(OnvifRelayOutputVector, isEmptyByDefault)
     EXPECT_TRUE(list.isEmpty());
     EXPECT_TRUE(list.xml.isEmpty());
     EXPECT_FALSE(list.response.get("/Envelope").valid);
+}
+
+TEST(OnvifRelayOutputVector, isAListFirstAndAResponseAfterIt)
+{
+    const OnvifRelayOutputVector list;
+    const void *const start = &list;
+    EXPECT_EQ(static_cast<const void *>(static_cast<const QList<OnvifRelayOutput> *>(&list)), start);
+    EXPECT_GT(static_cast<const void *>(static_cast<const vorn::OnvifResponseStructure *>(&list)), start);
 }
 
 TEST(OnvifRelayOutputVector, readsEachRelayInOrder)
