@@ -17,7 +17,7 @@ template <typename Value>
 class RecentValues
 {
 public:
-    /// The value for \a text, which \a make makes unless it is remembered. Valid until the next call.
+    /// The value for \a text, which \a make makes of it unless it is remembered. Valid until the next call.
     template <typename Make>
     const Value &of(std::string_view text, const Make &make)
     {
@@ -25,8 +25,9 @@ public:
         for (std::size_t candidate = place; candidate < place + tries; ++candidate) {
             std::uint16_t &number = m_numbers[candidate % places];
             if (number == 0) {
-                number = static_cast<std::uint16_t>(m_entries.size() + 1);
-                return m_entries.emplace_back(Entry{text, make(text)}).value;
+                m_entries.push_back({text, make(text)});
+                number = static_cast<std::uint16_t>(m_entries.size());
+                return m_entries.back().value;
             }
             if (m_entries[number - 1U].text == text)
                 return m_entries[number - 1U].value;

@@ -120,6 +120,7 @@ TEST(OnvifResponseStructure, copiesMovesAndAssignsBothFields)
     EXPECT_EQ(copy.xml, "<a>1</a>");
 
     OnvifResponseStructure moved(std::move(copy));
+    EXPECT_FALSE(copy.response.get("/a").valid); // NOLINT: the document has gone to the other
     EXPECT_EQ(moved.response.getText("/a"), "1");
     EXPECT_EQ(moved.xml, "<a>1</a>");
 
@@ -130,6 +131,7 @@ TEST(OnvifResponseStructure, copiesMovesAndAssignsBothFields)
 
     OnvifResponseStructure moveAssigned;
     moveAssigned = std::move(moved);
+    EXPECT_FALSE(moved.response.get("/a").valid); // NOLINT
     EXPECT_EQ(moveAssigned.response.getText("/a"), "1");
     EXPECT_EQ(moveAssigned.xml, "<a>1</a>");
     EXPECT_EQ(source.response.getText("/a"), "1");

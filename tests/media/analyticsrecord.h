@@ -187,14 +187,17 @@ TYPED_TEST_P(AnalyticsRecord, listIsCopiedMovedAndAssigned)
     const auto source = TestFixture::engineOf("<item Name='a'/><item Name='b'/>");
     auto copy = source;
     EXPECT_TRUE(isSource(copy));
+    const auto *elements = copy.constData();
     auto moved = std::move(copy);
     EXPECT_TRUE(isSource(moved));
+    EXPECT_EQ(moved.constData(), elements);
     auto assigned = TestFixture::engineOf("<item Name='x'/>");
     assigned = moved;
     EXPECT_TRUE(isSource(assigned));
     auto moveAssigned = TestFixture::engineOf("<item Name='x'/>");
     moveAssigned = std::move(moved);
     EXPECT_TRUE(isSource(moveAssigned));
+    EXPECT_EQ(moveAssigned.constData(), elements);
     EXPECT_TRUE(isSource(source));
 }
 

@@ -353,8 +353,10 @@ TYPED_TEST(ConfigurationList, isCopied)
 TYPED_TEST(ConfigurationList, isMoved)
 {
     auto source = TypeParam::read(replyOf<TypeParam>({"T1", "T2"}));
+    const auto *elements = source.constData();
     auto moved = std::move(source);
     expectReplyOfTwo<TypeParam>(moved);
+    EXPECT_EQ(moved.constData(), elements);
 }
 
 TYPED_TEST(ConfigurationList, isAssigned)
@@ -370,8 +372,10 @@ TYPED_TEST(ConfigurationList, isMoveAssigned)
 {
     auto source = TypeParam::read(replyOf<TypeParam>({"T1", "T2"}));
     auto target = TypeParam::read(replyOf<TypeParam>({"T3"}));
+    const auto *elements = source.constData();
     target = std::move(source);
     expectReplyOfTwo<TypeParam>(target);
+    EXPECT_EQ(target.constData(), elements);
 }
 
 TYPED_TEST(ConfigurationList, responseAnswersAsLongAsTheListLives)

@@ -348,8 +348,10 @@ TEST_F(TwoProfiles, areCopied)
 
 TEST_F(TwoProfiles, areMoved)
 {
+    const OnvifProfile *profiles = source.constData();
     auto moved = std::move(source);
     expectSource(moved);
+    EXPECT_EQ(moved.constData(), profiles);
 }
 
 TEST_F(TwoProfiles, areAssigned)
@@ -363,7 +365,9 @@ TEST_F(TwoProfiles, areAssigned)
 TEST_F(TwoProfiles, areMoveAssigned)
 {
     auto target = read("<Profiles token='x'/>");
+    const OnvifProfile *profiles = source.constData();
     target = std::move(source);
+    EXPECT_EQ(target.constData(), profiles);
     expectSource(target);
 }
 

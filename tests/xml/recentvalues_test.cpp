@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -35,6 +37,36 @@ TEST(RecentValues, keepsApartWhatStandsAtOnePlace)
         for (const std::string &text : texts)
             EXPECT_EQ(values.of(text, [](std::string_view made) { return std::string(made); }), text);
     }
+}
+
+TEST(RecentValues, readsNoByteBesideAText)
+{
+    RecentValues<std::size_t> values;
+    for (std::size_t size = 0; size < 20; ++size) {
+        // A block of exactly this size: a sanitizer sees what is read beside it.
+        const auto text = std::make_unique<char[]>(size);
+        std::fill_n(text.get(), size, 'x');
+        values.of(std::string_view(text.get(), size), [](std::string_view made) { return made.size(); });
+    }
+}
+
+TEST(RecentValues, remembersABoundedNumberOfTexts)
+{
+    std::vector<std::string> texts;
+    for (int i = 0; i < 1000; ++i)
+        texts.push_back(std::to_string(i));
+    RecentValues<std::string> values;
+    int made = 0;
+    const auto make = [&made](std::string_view text) {
+        ++made;
+        return std::string(text);
+    };
+    for (const std::string &text : texts)
+        values.of(text, make);
+    EXPECT_EQ(made, 1000);
+    for (const std::string &text : texts)
+        values.of(text, make);
+    EXPECT_GT(made, 1000 + 1000 - 257); // at most 256 were remembered
 }
 
 TEST(RecentValues, givesTheRightValueHoweverManyTextsThereAre)

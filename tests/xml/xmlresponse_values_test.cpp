@@ -115,11 +115,22 @@ TEST(XmlResponseValue, emptyResponseCanBeAssigned)
 TEST(XmlResponseValue, selfAssignmentChangesNothing)
 {
     XmlResponse response(reply, "/r");
-    const XmlResponseNode node = response.get("/a");
+    const QDomDocument owner = response.get("/a").element.ownerDocument();
     XmlResponse &same = response;
     response = same;
     EXPECT_TRUE(answers(response));
-    EXPECT_FALSE(node.element.ownerDocument().isNull());
+    EXPECT_EQ(response.get("/a").element.ownerDocument(), owner);
+}
+
+TEST(XmlResponseValue, nodesOfACopyHaveAnOwnerOfTheirOwn)
+{
+    XmlResponse source(reply, "/r");
+    const QDomDocument owner = source.get("/a").element.ownerDocument();
+    XmlResponse copy(source);
+    EXPECT_NE(copy.get("/a").element.ownerDocument(), owner);
+    XmlResponse assigned;
+    assigned = source;
+    EXPECT_NE(assigned.get("/a").element.ownerDocument(), owner);
 }
 
 TEST(XmlResponseValue, copiesAreReadOnSeveralThreadsAtOnce)

@@ -81,7 +81,11 @@ QString asJson(const QString &fileName, const inspect::Reply &reply)
 
 QString asOutline(const QString &heading, const inspect::Reply &reply, const inspect::Palette &palette)
 {
-    const QString content = reply.record ? reply.record->toLines(palette, 1) : QLatin1String("\n  ") + reply.remark;
+    QString content;
+    if (reply.record)
+        content += reply.record->toLines(palette, 1);
+    if (!reply.remark.isEmpty())
+        content += QLatin1String("\n  ") + reply.remark;
     return heading + palette.heading + inspect::printable(reply.kind) + palette.end + content + QLatin1Char('\n');
 }
 

@@ -4,6 +4,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QLocale>
 
+#include <cmath>
 #include <string_view>
 
 namespace inspect {
@@ -144,14 +145,17 @@ QJsonValue Outline::toJson() const
             json.append(entry.toJson());
         return json;
     };
-    return std::visit(Overloaded{
-                          [](std::monostate) { return QJsonValue(); },
-                          [](unsigned int value) { return QJsonValue(static_cast<qint64>(value)); },
-                          object,
-                          array,
-                          [](const auto &value) { return QJsonValue(value); },
-                      },
-                      m_value);
+    return std::visit(
+        Overloaded{
+            [](std::monostate) { return QJsonValue(); },
+            [](unsigned int value) { return QJsonValue(static_cast<qint64>(value)); },
+            // JSON has no other numbers, and null means that there is no record.
+            [](double value) { return std::isfinite(value) ? QJsonValue(value) : QString::number(value); },
+            object,
+            array,
+            [](const auto &value) { return QJsonValue(value); },
+        },
+        m_value);
 }
 
 QString printable(const QString &text)

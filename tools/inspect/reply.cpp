@@ -16,6 +16,7 @@ struct Reader
     const char *element;
     Outline (*read)(const QByteArray &bytes, const QString &root); ///< \c root is the path of the element
     QStringList (*requests)(const QByteArray &bytes, const QString &root) = nullptr;
+    const char *remark = ""; ///< what a reader has to know about the record
 };
 
 template <typename Record>
@@ -67,14 +68,17 @@ QStringList gatewayRequests(const QByteArray &bytes, const QString &)
     return request.isEmpty() ? QStringList() : QStringList(request);
 }
 
+const char *const noConfigurations = "The library reads no configurations from this reply.";
+const char *const onlyTheirNumber = "The library keeps only the number of these configurations.";
+
 const Reader readers[] = {
     {"GetDeviceInformationResponse", readRecord<vorn::OnvifDeviceInformation>},
     {"GetCapabilitiesResponse", readRecord<vorn::OnvifCapabilities>},
     {"GetScopesResponse", readRecord<vorn::OnvifScopeMap>},
     {"ProbeMatches", readRecord<vorn::OnvifCamera>},
     {"GetProfilesResponse", readListBelow<vorn::OnvifProfileVector>},
-    {"GetProfileResponse", readRecordBelow<vorn::OnvifProfile>},
-    {"CreateProfileResponse", readRecordBelow<vorn::OnvifProfile>},
+    {"GetProfileResponse", readRecordBelow<vorn::OnvifProfile>, nullptr, noConfigurations},
+    {"CreateProfileResponse", readRecordBelow<vorn::OnvifProfile>, nullptr, noConfigurations},
     {"GetVideoSourceConfigurationsResponse", readListBelow<vorn::OnvifVideoSourceConfigurationVector>},
     {"GetCompatibleVideoSourceConfigurationsResponse", readList<vorn::OnvifCompatibleVideoSourceConfigurationVector>},
     {"GetVideoEncoderConfigurationsResponse", readListBelow<vorn::OnvifVideoEncoderConfigurationVector>},
@@ -85,8 +89,10 @@ const Reader readers[] = {
     {"GetCompatibleAudioOutputConfigurationsResponse", readList<vorn::OnvifCompatibleAudioOutputConfigurationVector>},
     {"GetAudioEncoderConfigurationsResponse", readListBelow<vorn::OnvifAudioEncoderConfigurationVector>},
     {"GetCompatibleAudioEncoderConfigurationsResponse", readList<vorn::OnvifCompatibleAudioEncoderConfigurationVector>},
-    {"GetAudioDecoderConfigurationsResponse", readListBelow<vorn::OnvifAudioDecoderConfigurationVector>},
-    {"GetCompatibleAudioDecoderConfigurationsResponse", readList<vorn::OnvifCompatibleAudioDecoderConfigurationVector>},
+    {"GetAudioDecoderConfigurationsResponse", readListBelow<vorn::OnvifAudioDecoderConfigurationVector>, nullptr,
+     onlyTheirNumber},
+    {"GetCompatibleAudioDecoderConfigurationsResponse", readList<vorn::OnvifCompatibleAudioDecoderConfigurationVector>,
+     nullptr, onlyTheirNumber},
     {"GetVideoAnalyticsConfigurationsResponse", readListBelow<vorn::OnvifVideoAnalyticsConfigurationVector>},
     {"GetCompatibleVideoAnalyticsConfigurationsResponse",
      readList<vorn::OnvifCompatibleVideoAnalyticsConfigurationVector>},
@@ -114,7 +120,7 @@ Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
     if (reader == std::end(readers))
         return {element, {}, QStringLiteral("The library has no record for this reply.")};
     const QString root = QLatin1String("/Envelope/Body/") + element;
-    Reply reply{element, reader->read(bytes, root), {}};
+    Reply reply{element, reader->read(bytes, root), QLatin1String(reader->remark)};
     if (reader->requests)
         reply.requests = [=] { return reader->requests(bytes, root); };
     return reply;

@@ -20,7 +20,7 @@ struct Reply
     /// The record, or the codes of the fault; nothing if the library has none for this kind of reply.
     std::optional<Outline> record;
 
-    /// A sentence for the reader, where there is no record.
+    /// A sentence for the reader, where there is no record or the record needs one.
     QString remark;
 
     bool isFault = false;

@@ -5,7 +5,8 @@
 ///
 /// Each record is read from one element. A field is the text of a child element, unless its comment names another
 /// source. Names are compared case-sensitively, other children are ignored, and of several children with one name the
-/// last counts. Texts are kept verbatim, null if the element is missing. A number is 0 and a boolean false if the
+/// last counts. Where a field stands in a group, such as "RateControl", each group is read: what a later one lacks
+/// stays as it was. Texts are kept verbatim, null if the element is missing. A number is 0 and a boolean false if the
 /// element is missing or holds anything but a number of the field's type, or the text "true".
 
 #include <vorn/onvif/analytics.h>
@@ -161,8 +162,9 @@ struct VORNSDK_ONVIF_EXPORT OnvifAudioEncoderConfiguration : OnvifDataStructure
 /// An audio decoder configuration: how sound that is sent to the device is decoded.
 ///
 /// Copy construction does not copy: the new record is a null one, whatever it is made from. Only assignment takes the
-/// values over. So the elements of a list of these records are always null, and a record that holds one loses it when
-/// it is copied or moved by construction. To keep a record, assign it to one that exists.
+/// values over. So the elements of a list are null unless they have been assigned to, and are null again when the list
+/// grows or is detached; a record that holds one loses it when it is copied or moved by construction. To keep a record,
+/// assign it to one that exists.
 struct VORNSDK_ONVIF_EXPORT OnvifAudioDecoderConfiguration : OnvifDataStructure
 {
     QString name;     ///< Display name, from "Name".
@@ -188,6 +190,9 @@ struct VORNSDK_ONVIF_EXPORT OnvifAudioDecoderConfiguration : OnvifDataStructure
 };
 
 /// A metadata configuration: what the metadata stream of a profile carries.
+///
+/// As assignment leaves out the modules, a list in which records are moved about, by erasing, inserting, swapping or
+/// sorting, leaves the modules where they are.
 struct VORNSDK_ONVIF_EXPORT OnvifMetadataConfiguration : OnvifDataStructure
 {
     QString name;              ///< Display name, from "Name".
@@ -227,8 +232,9 @@ struct VORNSDK_ONVIF_EXPORT OnvifMetadataConfiguration : OnvifDataStructure
 /// From where to where an axis can be moved, in the units of the device's coordinate space.
 struct OnvifPtzRange
 {
-    double min = 0.0; ///< From "Min"; 0 if that is missing or no number.
-    double max = 0.0; ///< From "Max"; 0 if that is missing or no number.
+    double min =
+        0.0; ///< From "Min"; 0 if that is missing or no number. May be infinite or "NaN" if the device says so.
+    double max = 0.0; ///< From "Max", likewise.
 };
 
 /// A PTZ configuration: which PTZ node moves the camera of a profile, and how far.
@@ -420,8 +426,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifAudioOutputConfigurationVector : QList<OnvifAud
     OnvifAudioOutputConfigurationVector();
 
     /// Reads each "/Configurations", then each "/Options" of the reply \a bytes below the path \a root of its response
-    /// element, such as
-    /// "/Envelope/Body/GetAudioOutputConfigurationsResponse".
+    /// element, such as "/Envelope/Body/GetAudioOutputConfigurationsResponse".
     OnvifAudioOutputConfigurationVector(const QByteArray &bytes, const QString &root);
 
     OnvifAudioOutputConfigurationVector(const OnvifAudioOutputConfigurationVector &other);

@@ -18,9 +18,9 @@ namespace vorn {
 /// A configuration that the profile does not have is a null record: ask `isNull()`. Only OnvifProfileVector reads
 /// configurations from a reply.
 ///
-/// A profile that is copied or moved by construction, as it is on its way into a list, has a null `audioDecoder`;
-/// assignment takes it over. Assignment leaves `metadata.analyticsEngineConfiguration` as it was; copy construction
-/// takes it over.
+/// A profile that is copied or moved by construction, as it is on its way into a list and when a list grows or is
+/// detached, has a null `audioDecoder`; assignment takes it over. Assignment leaves
+/// `metadata.analyticsEngineConfiguration` as it was; copy construction takes it over.
 struct VORNSDK_ONVIF_EXPORT OnvifProfile : OnvifDataStructure, OnvifResponseStructure
 {
     QString name;       ///< Display name, from the element "Name". Null if that is missing.

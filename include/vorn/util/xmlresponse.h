@@ -38,7 +38,7 @@ struct VORNSDK_UTIL_EXPORT XmlResponseNode
     ///
     /// It has no parent and no siblings. Comments and processing instructions are left out. `isNull()`, `text()` and
     /// `attribute()` go on working when the XmlResponse that the node came from is gone; all else that the element
-    /// offers may be used only while that XmlResponse lives.
+    /// offers may be used only until that XmlResponse is assigned to, moved from or destroyed.
     QDomElement element;
 
     /// One node for each child element, in document order, filled in the same way.
