@@ -22,6 +22,12 @@ QStringList allFaultSentences()
     return sorted;
 }
 
+TEST(Catalogue, holdsThreeContexts)
+{
+    EXPECT_EQ(test::messagesByContext().keys(),
+              QStringList({"vorn::OnvifFault", "vorn::OnvifNetworkInterface", "vorn::OnvifRelayOutput"}));
+}
+
 TEST(FaultCatalogue, holdsEachSentenceOnceAndNoOther)
 {
     QStringList found;
