@@ -25,7 +25,8 @@ void readChildren(const XmlResponseNode &node, std::initializer_list<ChildReader
 
 // How an element becomes the value of a field: its text, converted as the type of the field says. A text that is no
 // number of this type gives 0; a boolean is true for the text "true" alone. A source file may add a type
-// that no other reads with an overload of its own: static in this namespace, as field() does not look into unnamed ones.
+// that no other reads with an overload of its own: static in this namespace, as field() does not look into unnamed
+// ones.
 void readValue(const XmlResponseNode &element, QString &value);
 void readValue(const XmlResponseNode &element, int &value);
 void readValue(const XmlResponseNode &element, unsigned int &value);

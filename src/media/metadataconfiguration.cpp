@@ -31,6 +31,7 @@ OnvifMetadataConfiguration::OnvifMetadataConfiguration(const XmlResponseNode &no
 OnvifMetadataConfiguration::OnvifMetadataConfiguration(const OnvifMetadataConfiguration &other) = default;
 
 // The modules are not taken over: to a caller, an assigned record keeps the list that it had. Copies do take it.
+// NOLINTNEXTLINE(cert-oop54-cpp): a field may be assigned to itself
 OnvifMetadataConfiguration &OnvifMetadataConfiguration::operator=(const OnvifMetadataConfiguration &other)
 {
     OnvifDataStructure::operator=(other);

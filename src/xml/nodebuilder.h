@@ -10,8 +10,8 @@
 
 namespace vorn {
 
-/// Makes the nodes that one query hands out. Lives no longer than the parsed document: it points into that for the texts
-/// that it remembers.
+/// Makes the nodes that one query hands out. Lives no longer than the parsed document: it points into that for the
+/// texts that it remembers.
 class NodeBuilder
 {
 public:

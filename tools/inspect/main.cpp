@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -39,12 +40,6 @@ void complain(const QString &text)
     print(stderr, QLatin1String("onvif-inspect: ") + text + QLatin1Char('\n'));
 }
 
-void complainAbout(const QFile &file)
-{
-    complain(QStringLiteral("cannot read %1: %2. Check the name and the permissions.")
-                 .arg(inspect::quoted(file.fileName()), file.errorString()));
-}
-
 bool isOutputATerminal()
 {
 #ifdef Q_OS_UNIX
@@ -68,6 +63,20 @@ bool open(QFile &file)
     return file.open(QIODevice::ReadOnly);
 }
 
+/// The bytes of a file; nothing, after a complaint, if it cannot be read.
+std::optional<QByteArray> contentsOf(const QString &fileName)
+{
+    QFile file(fileName);
+    if (open(file)) {
+        QByteArray bytes = file.readAll();
+        if (file.error() == QFileDevice::NoError)
+            return bytes;
+    }
+    complain(QStringLiteral("cannot read %1: %2. Check the name and the permissions.")
+                 .arg(inspect::quoted(fileName), file.errorString()));
+    return std::nullopt;
+}
+
 QString asJson(const QString &fileName, const inspect::Reply &reply)
 {
     const QString content = reply.isFault ? QStringLiteral("fault") : QStringLiteral("record");
@@ -87,6 +96,18 @@ QString asOutline(const QString &heading, const inspect::Reply &reply, const ins
     if (!reply.remark.isEmpty())
         content += QLatin1String("\n  ") + reply.remark;
     return heading + palette.heading + inspect::printable(reply.kind) + palette.end + content + QLatin1Char('\n');
+}
+
+ExitCode printRequests(const QString &fileName, const inspect::Reply &reply)
+{
+    const QStringList fragments = reply.requests ? reply.requests() : QStringList();
+    for (const QString &fragment : fragments)
+        print(stdout, (isOutputATerminal() ? inspect::printable(fragment) : fragment) + QLatin1Char('\n'));
+    if (!fragments.isEmpty())
+        return Read;
+    complain(inspect::printable(fileName) + QLatin1String(" (") + inspect::printable(reply.kind)
+             + QLatin1String("): it holds nothing of which a request can be made."));
+    return NothingRead;
 }
 
 } // namespace
@@ -146,31 +167,17 @@ int main(int argc, char **argv)
     const inspect::Palette palette = paletteForOutput();
     int exitCode = Read;
     for (const QString &fileName : fileNames) {
-        QFile file(fileName);
-        if (!open(file)) {
-            complainAbout(file);
+        const std::optional<QByteArray> bytes = contentsOf(fileName);
+        if (!bytes) {
             exitCode = CannotRun;
             continue;
         }
-        const QByteArray bytes = file.readAll();
-        if (file.error() != QFileDevice::NoError) {
-            complainAbout(file);
-            exitCode = CannotRun;
-            continue;
-        }
-        const inspect::Reply reply = inspect::read(bytes, actionName.constData());
-        const QString heading = fileNames.size() > 1 ? inspect::printable(fileName) + QLatin1String(": ") : QString();
+        const inspect::Reply reply = inspect::read(*bytes, actionName.constData());
         if (parser.isSet(request)) {
-            const QStringList fragments = reply.requests ? reply.requests() : QStringList();
-            for (const QString &fragment : fragments)
-                print(stdout, (isOutputATerminal() ? inspect::printable(fragment) : fragment) + QLatin1Char('\n'));
-            if (fragments.isEmpty()) {
-                complain(inspect::printable(fileName) + QLatin1String(" (") + inspect::printable(reply.kind)
-                         + QLatin1String("): it holds nothing of which a request can be made."));
-                exitCode = std::max<int>(exitCode, NothingRead);
-            }
+            exitCode = std::max<int>(exitCode, printRequests(fileName, reply));
             continue;
         }
+        const QString heading = fileNames.size() > 1 ? inspect::printable(fileName) + QLatin1String(": ") : QString();
         print(stdout, parser.isSet(json) ? asJson(fileName, reply) : asOutline(heading, reply, palette));
         exitCode = std::max<int>(exitCode, reply.record && !reply.isFault ? Read : NothingRead);
     }

@@ -45,7 +45,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifVideoSourceConfiguration : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifVideoSourceConfiguration &other) const;
-    bool operator!=(const OnvifVideoSourceConfiguration &other) const;
+    bool operator!=(const OnvifVideoSourceConfiguration &other) const; ///< The opposite of ==.
 };
 
 /// A video encoder configuration: how a profile's pictures are encoded.
@@ -80,7 +80,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifVideoEncoderConfiguration : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifVideoEncoderConfiguration &other) const;
-    bool operator!=(const OnvifVideoEncoderConfiguration &other) const;
+    bool operator!=(const OnvifVideoEncoderConfiguration &other) const; ///< The opposite of ==.
 };
 
 /// An audio source configuration: which audio input a profile takes its sound from.
@@ -103,7 +103,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifAudioSourceConfiguration : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifAudioSourceConfiguration &other) const;
-    bool operator!=(const OnvifAudioSourceConfiguration &other) const;
+    bool operator!=(const OnvifAudioSourceConfiguration &other) const; ///< The opposite of ==.
 };
 
 /// An audio output configuration: which audio output a profile plays to, and how loud.
@@ -128,7 +128,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifAudioOutputConfiguration : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifAudioOutputConfiguration &other) const;
-    bool operator!=(const OnvifAudioOutputConfiguration &other) const;
+    bool operator!=(const OnvifAudioOutputConfiguration &other) const; ///< The opposite of ==.
 };
 
 /// An audio encoder configuration: how a profile's sound is encoded.
@@ -156,7 +156,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifAudioEncoderConfiguration : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifAudioEncoderConfiguration &other) const;
-    bool operator!=(const OnvifAudioEncoderConfiguration &other) const;
+    bool operator!=(const OnvifAudioEncoderConfiguration &other) const; ///< The opposite of ==.
 };
 
 /// An audio decoder configuration: how sound that is sent to the device is decoded.
@@ -186,7 +186,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifAudioDecoderConfiguration : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifAudioDecoderConfiguration &other) const;
-    bool operator!=(const OnvifAudioDecoderConfiguration &other) const;
+    bool operator!=(const OnvifAudioDecoderConfiguration &other) const; ///< The opposite of ==.
 };
 
 /// A metadata configuration: what the metadata stream of a profile carries.
@@ -226,7 +226,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifMetadataConfiguration : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifMetadataConfiguration &other) const;
-    bool operator!=(const OnvifMetadataConfiguration &other) const;
+    bool operator!=(const OnvifMetadataConfiguration &other) const; ///< The opposite of ==.
 };
 
 /// From where to where an axis can be moved, in the units of the device's coordinate space.
@@ -264,7 +264,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifPtzConfiguration : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifPtzConfiguration &other) const;
-    bool operator!=(const OnvifPtzConfiguration &other) const;
+    bool operator!=(const OnvifPtzConfiguration &other) const; ///< The opposite of ==.
 };
 
 /// A video analytics configuration: the analytics modules and rules that work on a profile's pictures.
@@ -289,7 +289,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifVideoAnalyticsConfiguration : OnvifDataStructur
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifVideoAnalyticsConfiguration &other) const;
-    bool operator!=(const OnvifVideoAnalyticsConfiguration &other) const;
+    bool operator!=(const OnvifVideoAnalyticsConfiguration &other) const; ///< The opposite of ==.
 };
 
 } // namespace vorn

@@ -65,7 +65,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifCapabilities : OnvifResponseStructure
         bool dot11Configuration = false; ///< IEEE 802.11 configuration, from "/Device/Network/Extension".
     };
 
-    /// A version of the ONVIF core specification, such as 2.40.
+    /// A version of ONVIF that the device supports: 2.40 has the major number 2 and the minor number 40.
     struct SupportedVersion
     {
         unsigned int major = 0; ///< From "Major".

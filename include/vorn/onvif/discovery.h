@@ -35,7 +35,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifCamera : OnvifResponseStructure
     /// | Key | Values |
     /// |---|---|
     /// | "type" | "Video" once at the most; "Audio", "PTZ", "Analytics" and "ProfileS" once for each scope that says so
-    /// | | "name" | one: the name scope, percent-decoded; without one, or if that says "networkcamera", the hardware |
+    /// | "name" | one: the name scope, percent-decoded; without one, or if that says "networkcamera", the hardware |
     /// | "location" | the first part of each location scope, not percent-decoded |
     /// | "hardware" | each hardware scope, not percent-decoded |
     QMultiMap<QString, QString> scopes;

@@ -51,7 +51,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
 
         /// Whether all four fields are equal.
         VORNSDK_ONVIF_EXPORT bool operator==(const LinkSettings &other) const;
-        VORNSDK_ONVIF_EXPORT bool operator!=(const LinkSettings &other) const;
+        VORNSDK_ONVIF_EXPORT bool operator!=(const LinkSettings &other) const; ///< The opposite of ==.
     };
 
     /// An address with the length of its network's prefix.
@@ -71,7 +71,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
 
         /// Whether both fields are equal.
         bool operator==(const PrefixedAddress &other) const;
-        bool operator!=(const PrefixedAddress &other) const;
+        bool operator!=(const PrefixedAddress &other) const; ///< The opposite of ==.
     };
 
     /// The IPv4 side of the interface, from "IPv4".
@@ -96,7 +96,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
 
             /// Whether all four fields are equal, the addresses of the list in the same order.
             bool operator==(const Configuration &other) const;
-            bool operator!=(const Configuration &other) const;
+            bool operator!=(const Configuration &other) const; ///< The opposite of ==.
         };
 
         bool enabled = false; ///< Whether IPv4 is on, from "Enabled" of "IPv4".
@@ -113,7 +113,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
 
         /// Whether both fields are equal.
         bool operator==(const IPv4 &other) const;
-        bool operator!=(const IPv4 &other) const;
+        bool operator!=(const IPv4 &other) const; ///< The opposite of ==.
     };
 
     /// The IPv6 side of the interface, from "IPv6".
@@ -148,7 +148,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
 
             /// Whether all six fields are equal, the addresses of each list in the same order.
             bool operator==(const Configuration &other) const;
-            bool operator!=(const Configuration &other) const;
+            bool operator!=(const Configuration &other) const; ///< The opposite of ==.
         };
 
         bool enabled = false; ///< Whether IPv6 is on, from "Enabled" of "IPv6".
@@ -165,7 +165,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
 
         /// Whether both fields are equal.
         bool operator==(const IPv6 &other) const;
-        bool operator!=(const IPv6 &other) const;
+        bool operator!=(const IPv6 &other) const; ///< The opposite of ==.
     };
 
     QString name;         ///< Name, such as "eth0", from "Name" of "Info".
@@ -201,7 +201,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifNetworkInterface : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifNetworkInterface &other) const;
-    bool operator!=(const OnvifNetworkInterface &other) const;
+    bool operator!=(const OnvifNetworkInterface &other) const; ///< The opposite of ==.
 };
 
 // The hash of each record follows its content. It is the same in every process; through Qt's hash of texts it depends

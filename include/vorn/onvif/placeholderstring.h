@@ -34,8 +34,8 @@ public:
     PlaceHolderString &operator=(const PlaceHolderString &) = delete;
     ~PlaceHolderString();
 
-    PlaceHolderString &arg(const std::string &value);
-    PlaceHolderString &arg(const QString &value); ///< Filled in as UTF-8.
+    PlaceHolderString &arg(const std::string &value); ///< Filled in as it stands.
+    PlaceHolderString &arg(const QString &value);     ///< Filled in as UTF-8.
 
     /// A number in plain decimal, as a stream with the global C++ locale writes it.
     PlaceHolderString &arg(short value);

@@ -56,7 +56,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifProfile : OnvifDataStructure, OnvifResponseStru
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifProfile &other) const;
-    bool operator!=(const OnvifProfile &other) const;
+    bool operator!=(const OnvifProfile &other) const; ///< The opposite of ==.
 
     /// Whether the profile was made from a name, a token and `fixed`, as the ones of a list are. Travels with copies.
     bool isSaved() const;

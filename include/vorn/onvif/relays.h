@@ -51,7 +51,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifRelayOutput : OnvifDataStructure
 
     /// Whether the tokens are equal. Nothing else is compared.
     bool operator==(const OnvifRelayOutput &other) const;
-    bool operator!=(const OnvifRelayOutput &other) const;
+    bool operator!=(const OnvifRelayOutput &other) const; ///< The opposite of ==.
 };
 
 /// The name of \a mode for the user, translated by the catalogues that the application has installed for the context

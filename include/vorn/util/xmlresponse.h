@@ -60,7 +60,8 @@ struct VORNSDK_UTIL_EXPORT XmlResponseNode
 /// that is not a path of this form is the path of no element.
 ///
 /// Paths without a node start at the root path that the constructor was given, and from there at the document element.
-/// Paths with a node start at that node: their first component is the node's own name.
+/// The empty path leads to the element at the root path; if the root path is empty too, to none. Paths with a node
+/// start at that node: their first component is the node's own name.
 ///
 /// No operation fails, throws or reports. Bytes that cannot be parsed give an object on which every path is missing.
 /// These are such bytes:

@@ -69,8 +69,8 @@ int main(int argc, char **argv)
     expect(profiles.constFirst().videoEncoder.resolution == QSize(1920, 1080), "an encoder is wrong");
     expect(profiles.constFirst().videoAnalytics.ruleEngineConfiguration.size() == 1, "the rules are wrong");
 
-    const vorn::OnvifNetworkInterfaceVector interfaces(
-        reply("GetNetworkInterfaces.xml"), QStringLiteral("/Envelope/Body/GetNetworkInterfacesResponse"));
+    const vorn::OnvifNetworkInterfaceVector interfaces(reply("GetNetworkInterfaces.xml"),
+                                                       QStringLiteral("/Envelope/Body/GetNetworkInterfacesResponse"));
     const QSet<vorn::OnvifNetworkInterface> set(interfaces.cbegin(), interfaces.cend());
     expect(!set.isEmpty() && set.size() == interfaces.size(), "the interfaces are wrong");
     vorn::OnvifNetworkInterface::LinkSettings settings;
