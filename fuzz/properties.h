@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+
+/// What holds for every reply. Each of these ends the program if it does not.
+namespace fuzz {
+
+/// All records that can be made of a reply: lists have one entry for each element, in document order; copies answer as
+/// their source; what is printed for a request holds the values.
+void checkRecords(const QByteArray &reply);
+
+/// The verdict: it has a sentence, copies give the same, and other prefixes do not change it.
+void checkFault(const QByteArray &reply);
+
+} // namespace fuzz
