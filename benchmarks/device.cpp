@@ -55,7 +55,7 @@ void addDeviceRoads()
     require(vorn::OnvifCamera(probeMatch).scopes.size() == 9, "the probe match is wrong");
     addRoad("OnvifCamera/many-namespaces", probeMatch, {0.40}, read<vorn::OnvifCamera>);
 
-    addGrowth("OnvifScopeMap/10000 scopes", replyWithScopes(1000), replyWithScopes(10000), {12},
+    addGrowth("OnvifScopeMap/10000 scopes", replyWithScopes(1000), replyWithScopes(10000), {std::nullopt, 12},
               read<vorn::OnvifScopeMap>);
 }
 

@@ -60,8 +60,8 @@ void addNetworkRoads()
         addRoad(named("OnvifRelayOutputVector"), relays, {0.45}, readRelays);
     }
 
-    addGrowth("OnvifNetworkInterfaceVector/1000 interfaces", replyWithInterfaces(100), replyWithInterfaces(1000), {12},
-              readInterfaces);
+    addGrowth("OnvifNetworkInterfaceVector/1000 interfaces", replyWithInterfaces(100), replyWithInterfaces(1000),
+              {std::nullopt, 12}, readInterfaces);
 }
 
 } // namespace bench

@@ -25,7 +25,8 @@ struct Limits
 /// bytes.
 void addRoad(const std::string &name, const QByteArray &reply, const Limits &limits, const Read &read);
 
-/// Compares \a read on \a large with the same on \a small.
+/// Compares \a read on \a large with the same on \a small. A limit of the time would be one of the machine: it takes
+/// longer where the large one no longer fits its caches.
 void addGrowth(const std::string &name, const QByteArray &small, const QByteArray &large, const Limits &limits,
                const Read &read);
 
