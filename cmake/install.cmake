@@ -4,12 +4,16 @@ include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vornsdk-onvif)
 
-# A VornSDK::Util of the surrounding project is its own to install.
-set(libraries vornsdk-onvif)
-if(TARGET vornsdk-util)
-    list(PREPEND libraries vornsdk-util)
+if(NOT TARGET vornsdk-util)
+    message(FATAL_ERROR "VORNSDK_ONVIF_INSTALL cannot install a VornSDK::Util that the surrounding project brings: set it "
+        "to OFF, and install both libraries from there.")
 endif()
-install(TARGETS ${libraries}
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_BINDIR}")
+    message(FATAL_ERROR "What is installed can be moved only if its folders are relative: give CMAKE_INSTALL_LIBDIR, "
+        "CMAKE_INSTALL_INCLUDEDIR and CMAKE_INSTALL_BINDIR without the prefix.")
+endif()
+
+install(TARGETS vornsdk-util vornsdk-onvif
     EXPORT vornsdk-onvif-targets
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
@@ -50,9 +54,10 @@ install(FILES ${PROJECT_BINARY_DIR}/vornsdk-onvif.pc
 
 if(TARGET onvif-inspect)
     file(RELATIVE_PATH libraries_from_tools /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
-    set_target_properties(onvif-inspect PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_tools}")
+    set_target_properties(onvif-inspect PROPERTIES INSTALL_RPATH "${VORNSDK_ORIGIN}/${libraries_from_tools}")
     install(TARGETS onvif-inspect RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Tools)
-    install(FILES ${PROJECT_SOURCE_DIR}/docs/onvif-inspect.1
+    configure_file(${PROJECT_SOURCE_DIR}/docs/onvif-inspect.1.in ${PROJECT_BINARY_DIR}/onvif-inspect.1 @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/onvif-inspect.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
         COMPONENT Tools)
 endif()

@@ -10,6 +10,7 @@ work=$(realpath -m "$2")
 rm -rf "$work"
 mkdir -p "$work"
 
+version=$(sed -nE 's/^ *VERSION ([0-9.]+)$/\1/p' "$source/CMakeLists.txt")
 warnings="-Wall -Wextra -Wpedantic -Wconversion -Werror"
 definitions="-DQT_NO_KEYWORDS -DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII"
 mapfile -t headers < <(cd "$source/include" && find . -name "*.h" | sed "s:^\./::" | sort)
@@ -67,7 +68,7 @@ for kind in shared static; do
     quietly cmake --install "$work/$kind" --prefix "$work/first-$kind"
     # What is installed must not know where it was.
     mv "$work/first-$kind" "$work/moved-$kind"
-    ! grep -rlIF -e "$source" -e "$work" "$work/moved-$kind" || { echo "package test: the above name a folder of the build" >&2; exit 1; }
+    ! grep -rlF -e "$source" -e "$work" "$work/moved-$kind" || { echo "package test: the above name a folder of the build" >&2; exit 1; }
     quietly "$work/moved-$kind/bin/onvif-inspect" "$source/samples/short-prefixes/GetDeviceInformation.xml"
 
     for standard in 17 20; do
@@ -89,8 +90,17 @@ done
 consume "shared, add_subdirectory, own VornSDK::Util" -DLIBRARY_SOURCE="$source" -DOWN_UTIL=ON -DBUILD_SHARED_LIBS=ON
 
 echo "Asking for what is not there"
-refuse "a version to come" 'version: 1.0.0' \
+refuse "a version to come" "version: $version" \
     cmake -S "$source/tests/package/asking" -B "$work/asking" -G Ninja -DCMAKE_PREFIX_PATH="$work/moved-shared" -DVERSION=2.0
+mkdir -p "$work/old/lib/cmake/Qt6"
+echo 'set(PACKAGE_VERSION 6.2.0)' >"$work/old/lib/cmake/Qt6/Qt6ConfigVersion.cmake"
+echo 'set(Qt6_FOUND TRUE)' >"$work/old/lib/cmake/Qt6/Qt6Config.cmake"
+refuse "an old Qt" "Qt 6.4 or later with its modules Core and Xml was not found: install it" \
+    cmake -S "$source" -B "$work/old-qt" -G Ninja -DCMAKE_PREFIX_PATH="$work/old" \
+    -DCMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF -DCMAKE_FIND_USE_SYSTEM_ENVIRONMENT_PATH=OFF \
+    -DCMAKE_MAKE_PROGRAM="$(command -v ninja)" -DCMAKE_CXX_COMPILER="$(command -v g++)"
+refuse "no GoogleTest" "GoogleTest was not found: install it (on Debian libgtest-dev)" \
+    cmake -S "$source" -B "$work/no-gtest" -G Ninja -DCMAKE_DISABLE_FIND_PACKAGE_GTest=ON
 refuse "no Qt" "Qt 6.4 or later with its modules Core and Xml was not found: install it" \
     cmake -S "$source" -B "$work/no-qt" -G Ninja -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON
 refuse "no pugixml" "pugixml 1.11 or later was not found: install it" \
@@ -105,6 +115,8 @@ quietly cmake -S "$source" -B "$work/debian" -G Ninja -DCMAKE_BUILD_TYPE=Release
 quietly cmake --build "$work/debian"
 (cd "$work/debian" && quietly cpack)
 packages=("$work"/debian/*.deb)
+names=$(for package in "${packages[@]}"; do dpkg-deb --field "$package" Package; done)
+[ "$names" = $'libvornsdk-onvif-dev\nlibvornsdk-onvif1\nvornsdk-onvif-tools' ] || { echo "package test: wrong packages: $names" >&2; exit 1; }
 quietly lintian --fail-on error "${packages[@]}"
 for package in "${packages[@]}"; do
     dpkg-deb --extract "$package" "$work/root"
