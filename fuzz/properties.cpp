@@ -97,15 +97,13 @@ void checkGateway(const QByteArray &reply)
     require(request.isEmpty() == (gateway.ipv4Address.isEmpty() && gateway.ipv6Address.isEmpty()));
 }
 
-/// Writes \a node with another prefix, its text before its children.
+/// Writes \a node with another prefix, without attributes. All text is written as references.
 void write(QString &output, const XmlResponseNode &node)
 {
-    // A name may be one that no markup can hold; then the node has no other spelling.
     const QString name = QLatin1String("other:") + node.name;
     output += QLatin1Char('<') + name + QLatin1Char('>');
-    QDomNode content = node.element.firstChild();
     qsizetype next = 0;
-    for (; !content.isNull(); content = content.nextSibling()) {
+    for (QDomNode content = node.element.firstChild(); !content.isNull(); content = content.nextSibling()) {
         if (content.isElement()) {
             write(output, node.children[next++]);
             continue;
@@ -184,7 +182,8 @@ void checkFault(const QByteArray &reply)
         write(rewritten, node);
         vorn::OnvifFault again(rewritten.toUtf8(), "DeleteProfile", 7);
         require(again.xml == rewritten);
-        if (again.response.get(QLatin1String(documentElement)).valid) // names can hold what no markup can
+        if (again.response.get(QLatin1String(documentElement))
+                .valid) // the parser forgives names that do not bear a prefix
             require(codesOf(again) == codesOf(fault) && again.toString() == fault.toString());
     }
 }

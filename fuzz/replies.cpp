@@ -20,7 +20,7 @@ std::size_t below(Random &random, std::size_t end)
     return std::uniform_int_distribution<std::size_t>(0, end - 1)(random);
 }
 
-std::vector<pugi::xml_node> elementsOf(const pugi::xml_document &document)
+std::vector<pugi::xml_node> elementsOf(pugi::xml_document &document)
 {
     struct Collector : pugi::xml_tree_walker
     {
@@ -35,7 +35,7 @@ std::vector<pugi::xml_node> elementsOf(const pugi::xml_document &document)
     };
 
     Collector collector;
-    const_cast<pugi::xml_document &>(document).traverse(collector);
+    document.traverse(collector);
     return collector.elements;
 }
 
