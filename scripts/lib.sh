@@ -1,15 +1,16 @@
 # shellcheck shell=bash
 # Shared by the scripts. To be sourced from the top folder.
 
-# build PRESET: configures and builds; shows the tools' output only when they fail.
+# build PRESET [TARGET...]: configures and builds; shows the tools' output only when they fail.
 build() {
-    local log
+    local log preset=$1
+    shift
     log=$(mktemp)
-    echo "Building (preset $1)"
-    if ! { cmake --preset "$1" && cmake --build --preset "$1"; } >"$log" 2>&1; then
+    echo "Building (preset $preset)"
+    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${1+--target "$@"}; } >"$log" 2>&1; then
         cat "$log" >&2
         rm -f "$log"
-        echo "The build with preset $1 failed; its output stands above." >&2
+        echo "The build with preset $preset failed; its output stands above." >&2
         return 1
     fi
     rm -f "$log"
