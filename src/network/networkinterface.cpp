@@ -93,14 +93,11 @@ namespace {
 /// what names them makes the compiler put them there.
 struct LinkSettingsAssignments
 {
-    LinkSettings &(LinkSettings::*copy)(const LinkSettings &);
-    LinkSettings &(LinkSettings::*move)(LinkSettings &&);
+    LinkSettings &(LinkSettings::*copy)(const LinkSettings &) = &LinkSettings::operator=;
+    LinkSettings &(LinkSettings::*move)(LinkSettings &&) = &LinkSettings::operator=;
 };
 
-[[gnu::used]] const LinkSettingsAssignments linkSettingsAssignments = {
-    &LinkSettings::operator=,
-    &LinkSettings::operator=,
-};
+[[gnu::used]] const LinkSettingsAssignments linkSettingsAssignments;
 
 } // namespace
 
