@@ -1,13 +1,14 @@
-// Times the library's roads against QDomDocument::setContent, counts their instructions, and checks each against its
-// limits.
+// Compares the library's roads with others over the same replies. scripts/bench says what it prints.
 
-#include "device.h"
-#include "fault.h"
-#include "media.h"
-#include "network.h"
-#include "road.h"
+#include "growth.h"
+#include "guard.h"
+#include "measure.h"
+#include "roads.h"
 
+#include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
+#include <QtCore/QHashSeed>
+#include <QtCore/QStandardPaths>
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
@@ -17,28 +18,103 @@
 #include <malloc.h>
 #endif
 
+namespace {
+
+constexpr int skipped = 77; // what CTest is told to take for a skipped test
+
+void fail(const QString &what)
+{
+    std::cerr << "vornsdk-benchmarks: " << what.toStdString() << '\n';
+    std::exit(2);
+}
+
+/// The instructions of \a tasks. Does not return in the run that counts them.
+bench::Costs countedInstructions(const std::vector<bench::Task> &tasks)
+{
+    if (bench::isCountedRun()) {
+        bench::runCounted(tasks);
+        std::exit(EXIT_SUCCESS);
+    }
+    if (QStandardPaths::findExecutable(QStringLiteral("valgrind")).isEmpty()) {
+        std::cerr << "vornsdk-benchmarks: skipped, as valgrind is missing and instructions cannot be counted.\n";
+        std::exit(skipped);
+    }
+    bench::Costs instructions = bench::instructionsOf(tasks);
+    if (instructions.empty())
+        fail(QStringLiteral("the instructions were not counted: valgrind failed."));
+    return instructions;
+}
+
+bench::Costs seedlessTimesOf(const std::vector<bench::Task> &tasks)
+{
+    QHashSeed::setDeterministicGlobalSeed();
+    bench::Costs times = bench::timesOf(tasks);
+    QHashSeed::resetRandomGlobalSeed();
+    return times;
+}
+
+bool printRoads(const QStringList &folders)
+{
+    const bench::Roads roads(folders);
+    const std::vector<bench::Task> tasks = roads.tasks();
+    const bench::Costs instructions = countedInstructions(tasks);
+    return roads.print(std::cout, bench::timesOf(tasks), seedlessTimesOf(tasks), instructions);
+}
+
+bool printGrowth()
+{
+    const bench::Growth growth;
+    const bench::Costs instructions = countedInstructions(growth.tasks());
+    return growth.print(std::cout, bench::timesOf(growth.tasks()), instructions);
+}
+
+std::map<std::string, double> measuredRatios()
+{
+    const bench::Roads roads({QStringLiteral(SAMPLES_FOLDER)});
+    return roads.ratios(countedInstructions(roads.guardedTasks()));
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
-    QCoreApplication application(argc, argv);
-    const bool counts = application.arguments().value(1) == QLatin1String("--count");
-    if (!counts) {
-        benchmark::Initialize(&argc, argv);
-        if (benchmark::ReportUnrecognizedArguments(argc, argv))
-            return 2;
-    }
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    const QCommandLineOption replies(QStringLiteral("replies"), QStringLiteral("Measure the replies in FOLDER too."),
+                                     QStringLiteral("FOLDER"));
+    parser.addOption(replies);
+    parser.addHelpOption();
+    parser.addPositionalArgument(QStringLiteral("what"),
+                                 QStringLiteral("roads, growth, sizes, threads, guard FILE or commit FILE."));
+    benchmark::Initialize(&argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    arguments.removeAll(bench::countOption());
+    parser.process(arguments);
+    const QStringList operands = parser.positionalArguments();
+    const QString what = operands.value(0, QStringLiteral("roads"));
+
 #ifdef __GLIBC__
     // Memory that goes back to the system after each run comes back with a page fault for each page, and that would be
     // measured: on these sizes it is as much as the work.
     mallopt(M_TRIM_THRESHOLD, 1 << 30);
     mallopt(M_MMAP_THRESHOLD, 1 << 30);
 #endif
-    bench::addDeviceRoads();
-    bench::addFaultRoads();
-    bench::addMediaRoads();
-    bench::addNetworkRoads();
-    if (counts) {
-        bench::runCounted(application.arguments().mid(2));
-        return EXIT_SUCCESS;
-    }
-    return bench::runAll(std::cout) ? EXIT_SUCCESS : EXIT_FAILURE;
+    bool good = true;
+    if (what == QLatin1String("roads"))
+        good = printRoads(QStringList{QStringLiteral(SAMPLES_FOLDER)} + parser.values(replies));
+    else if (what == QLatin1String("growth"))
+        good = printGrowth();
+    else if (what == QLatin1String("sizes"))
+        bench::printSizes(std::cout);
+    else if (what == QLatin1String("threads"))
+        bench::printThreads(std::cout);
+    else if (what == QLatin1String("guard") && operands.size() == 2)
+        good = bench::checkRatios(std::cout, measuredRatios(), bench::readRatios(operands[1]));
+    else if (what == QLatin1String("commit") && operands.size() == 2)
+        bench::writeRatios(operands[1], measuredRatios());
+    else
+        fail(QStringLiteral("there is nothing called \"%1\" to measure. Try --help.").arg(operands.join(u' ')));
+    return good ? EXIT_SUCCESS : EXIT_FAILURE;
 }

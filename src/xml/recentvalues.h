@@ -25,6 +25,8 @@ public:
         for (std::size_t candidate = place; candidate < place + tries; ++candidate) {
             std::uint16_t &number = m_numbers[candidate % places];
             if (number == 0) {
+                if (m_entries.empty())
+                    m_entries.reserve(32); // most replies need no more
                 m_entries.push_back({text, make(text)});
                 number = static_cast<std::uint16_t>(m_entries.size());
                 return m_entries.back().value;

@@ -4,6 +4,7 @@
 #include <QtCore/QStringDecoder>
 #include <QtCore/QVarLengthArray>
 
+#include <cstdint>
 #include <cstring>
 
 namespace vorn {
@@ -16,6 +17,21 @@ QStringDecoder valueDecoder()
 {
     return QStringDecoder(QStringDecoder::Utf8,
                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+}
+
+/// Looks at eight bytes at once.
+bool isAscii(QByteArrayView bytes)
+{
+    const char *next = bytes.begin();
+    std::uint64_t allBits = 0;
+    for (; bytes.end() - next >= 8; next += 8) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, next, sizeof word);
+        allBits |= word;
+    }
+    for (; next != bytes.end(); ++next)
+        allBits |= static_cast<unsigned char>(*next);
+    return (allBits & 0x8080808080808080U) == 0;
 }
 
 bool isBlank(const char *utf8)
@@ -71,12 +87,8 @@ private:
 
 QString toQString(const char *utf8)
 {
-    unsigned char allBits = 0;
-    const char *end = utf8;
-    for (; *end != '\0'; ++end)
-        allBits |= static_cast<unsigned char>(*end);
-    const QByteArrayView bytes(utf8, end);
-    if (allBits < 0x80) // ASCII, as nearly all is; then it need not be decoded
+    const QByteArrayView bytes(utf8);
+    if (isAscii(bytes)) // as nearly all is; then it need not be decoded
         return QString::fromLatin1(bytes);
     return bytes.startsWith(byteOrderMark) ? QString(valueDecoder()(bytes)) : QString::fromUtf8(bytes);
 }
@@ -90,6 +102,9 @@ QString textOf(pugi::xml_node element)
 {
     if (!element)
         return {};
+    const char *ownText = element.value();
+    if (!element.first_child() && !isBlank(ownText)) // as nearly all are
+        return toQString(ownText);
     QString text;
     visitCharacterData(element, [&text](const char *utf8) { text += toQString(utf8); });
     return text.isNull() ? QString(QLatin1String("")) : text;
@@ -102,6 +117,8 @@ unsigned int uintOf(pugi::xml_node element)
 
 bool boolOf(pugi::xml_node element)
 {
+    if (!element)
+        return false;
     if (!element.first_child()) { // nothing, or one piece of text, which nearly always is one of these words
         if (std::strcmp(element.value(), "true") == 0)
             return true;

@@ -1,7 +1,0 @@
-#pragma once
-
-namespace bench {
-
-void addFaultRoads();
-
-} // namespace bench

@@ -1,0 +1,116 @@
+#include "measure.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+#include <iostream>
+#include <valgrind/callgrind.h>
+
+namespace bench {
+namespace {
+
+/// Keeps the median of each benchmark's repetitions.
+class MedianReporter : public benchmark::BenchmarkReporter
+{
+public:
+    bool ReportContext(const Context &) override { return true; }
+
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs) {
+            if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
+                medians[run.run_name.function_name] = run.GetAdjustedCPUTime() / 1000;
+        }
+    }
+
+    Costs medians;
+};
+
+/// Adds what callgrind wrote to \a file: what its task is called, and its instructions.
+void addCount(const QString &file, Costs &instructions)
+{
+    QFile dump(file);
+    if (!dump.open(QIODevice::ReadOnly))
+        return;
+    const QByteArray nameStart = "desc: Trigger: Client Request: ";
+    const QByteArray countStart = "summary: ";
+    std::string name;
+    while (!dump.atEnd()) {
+        const QByteArray line = dump.readLine().trimmed();
+        if (line.startsWith(nameStart))
+            name = line.mid(nameStart.size()).toStdString();
+        else if (line.startsWith(countStart))
+            instructions[name] = line.mid(countStart.size()).toDouble();
+    }
+}
+
+} // namespace
+
+Costs timesOf(const std::vector<Task> &tasks)
+{
+    benchmark::ClearRegisteredBenchmarks();
+    for (const Task &task : tasks) {
+        benchmark::RegisterBenchmark(task.name.c_str(), [&task](benchmark::State &state) {
+            for (auto _ : state)
+                task.run();
+        });
+    }
+    MedianReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return reporter.medians;
+}
+
+Costs instructionsOf(const std::vector<Task> &tasks)
+{
+    const QTemporaryDir folder;
+    QProcess valgrind;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_HASH_SEED"), QStringLiteral("0")); // else each run counts a little different
+    valgrind.setProcessEnvironment(environment);
+    valgrind.start(QStringLiteral("valgrind"),
+                   QStringList{QStringLiteral("--tool=callgrind"), QStringLiteral("--instr-atstart=no"),
+                               QStringLiteral("--callgrind-out-file=") + folder.filePath(QStringLiteral("counts")),
+                               QCoreApplication::applicationFilePath()}
+                       + QCoreApplication::arguments().mid(1) + QStringList{countOption()});
+    if (!valgrind.waitForFinished(-1) || valgrind.exitStatus() != QProcess::NormalExit || valgrind.exitCode() != 0) {
+        std::cerr << valgrind.readAllStandardError().toStdString();
+        return {};
+    }
+    Costs instructions;
+    const QFileInfoList dumps = QDir(folder.path()).entryInfoList({QStringLiteral("counts.*")});
+    for (const QFileInfo &dump : dumps)
+        addCount(dump.filePath(), instructions);
+    for (const Task &task : tasks) {
+        if (instructions.count(task.name) == 0)
+            return {};
+    }
+    return instructions;
+}
+
+QString countOption()
+{
+    return QStringLiteral("--count");
+}
+
+bool isCountedRun()
+{
+    return QCoreApplication::arguments().constLast() == countOption();
+}
+
+void runCounted(const std::vector<Task> &tasks)
+{
+    for (const Task &task : tasks) {
+        task.run(); // so that what is done only once is not counted
+        CALLGRIND_START_INSTRUMENTATION;
+        CALLGRIND_ZERO_STATS;
+        task.run();
+        CALLGRIND_DUMP_STATS_AT(task.name.c_str());
+        CALLGRIND_STOP_INSTRUMENTATION;
+    }
+}
+
+} // namespace bench
