@@ -109,7 +109,7 @@ TEST_P(HostileDocument, isReadByAllRecordsInProportionToItsSize)
 
 TEST_P(HostileDocument, isReadOnTheStackOfASmallThread)
 {
-    const qsizetype count = GetParam().count / 100;
+    const qsizetype count = GetParam().count / 1000;
     const QByteArray reply = GetParam().make(count);
     const std::unique_ptr<QThread> thread(QThread::create([&] { hostile::readAll(reply); }));
     thread->setStackSize(test::sanitized ? stackSize : stackSize / 4); // whose checks take stack too
