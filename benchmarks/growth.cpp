@@ -3,6 +3,7 @@
 #include "kinds.h"
 #include "replies.h"
 #include "roads.h"
+#include "times.h"
 
 #include <benchmark/benchmark.h>
 

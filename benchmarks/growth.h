@@ -1,6 +1,6 @@
 #pragma once
 
-#include "measure.h"
+#include "instructions.h"
 
 #include <iosfwd>
 #include <string>

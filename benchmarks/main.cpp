@@ -2,8 +2,9 @@
 
 #include "growth.h"
 #include "guard.h"
-#include "measure.h"
+#include "instructions.h"
 #include "roads.h"
+#include "times.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
@@ -32,14 +33,15 @@ void fail(const QString &what)
 bench::Costs countedInstructions(const std::vector<bench::Task> &tasks)
 {
     if (bench::isCountedRun()) {
-        bench::runCounted(tasks);
+        for (const bench::Task &task : tasks)
+            bench::runCounted(task);
         std::exit(EXIT_SUCCESS);
     }
     if (QStandardPaths::findExecutable(QStringLiteral("valgrind")).isEmpty()) {
         std::cerr << "vornsdk-benchmarks: skipped, as valgrind is missing and instructions cannot be counted.\n";
         std::exit(skipped);
     }
-    bench::Costs instructions = bench::instructionsOf(tasks);
+    bench::Costs instructions = bench::countInstructions();
     if (instructions.empty())
         fail(QStringLiteral("the instructions were not counted: valgrind failed."));
     return instructions;

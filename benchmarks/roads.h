@@ -1,7 +1,7 @@
 #pragma once
 
+#include "instructions.h"
 #include "kinds.h"
-#include "measure.h"
 
 #include <QtCore/QStringList>
 

@@ -103,6 +103,22 @@ std::optional<QString> decodedFromOtherThanUtf8(const QByteArray &bytes)
     return decoder(bytes);
 }
 
+/// \a bytes with U+FFFD in place of each NUL. In one pass: QByteArray::replace() moves all that follows again and again,
+/// so that its time grows with the square of the size.
+QByteArray withNulsReplaced(QByteArrayView bytes)
+{
+    constexpr QByteArrayView replacement("\xEF\xBF\xBD");
+    QByteArray result;
+    result.reserve(bytes.size() + bytes.count('\0') * (replacement.size() - 1));
+    for (const char byte : bytes) {
+        if (byte == '\0')
+            result += replacement;
+        else
+            result += byte;
+    }
+    return result;
+}
+
 } // namespace
 
 DecodedReply decodeReply(const QByteArray &bytes)
@@ -119,9 +135,10 @@ DecodedReply decodeReply(const QByteArray &bytes)
     // The parser takes a NUL for the end of the reply. Behind the reply it is one: the terminator of a C string that
     // the device sent along.
     if (reply.utf8.contains('\0')) {
-        while (reply.utf8.endsWith('\0'))
-            reply.utf8.chop(1);
-        reply.utf8.replace('\0', "\xEF\xBF\xBD");
+        QByteArrayView kept(reply.utf8);
+        while (kept.endsWith('\0'))
+            kept.chop(1);
+        reply.utf8 = withNulsReplaced(kept);
     }
     return reply;
 }

@@ -14,6 +14,9 @@ public:
     ~AllocationCounter();
 
     std::size_t count() const;
+
+    /// The most that was held at one time of what has been taken since the start.
+    std::size_t peakBytes() const;
 };
 
 } // namespace test

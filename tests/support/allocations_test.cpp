@@ -27,3 +27,12 @@ TEST(AllocationCounter, startsAtZero)
     const test::AllocationCounter allocations;
     EXPECT_EQ(allocations.count(), 0U);
 }
+
+TEST(AllocationCounter, notesTheMostThatWasHeldAtOneTime)
+{
+    const test::AllocationCounter allocations;
+    for (int i = 0; i < 10; ++i)
+        QByteArray(100000, 'x').append('y');
+    EXPECT_GE(allocations.peakBytes(), 100000U);
+    EXPECT_LE(allocations.peakBytes(), 500000U);
+}

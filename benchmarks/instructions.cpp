@@ -1,34 +1,16 @@
-#include "measure.h"
+#include "instructions.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
-#include <benchmark/benchmark.h>
 
 #include <iostream>
 #include <valgrind/callgrind.h>
 
 namespace bench {
 namespace {
-
-/// Keeps the median of each benchmark's repetitions.
-class MedianReporter : public benchmark::BenchmarkReporter
-{
-public:
-    bool ReportContext(const Context &) override { return true; }
-
-    void ReportRuns(const std::vector<Run> &runs) override
-    {
-        for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
-                medians[run.run_name.function_name] = run.GetAdjustedCPUTime() / 1000;
-        }
-    }
-
-    Costs medians;
-};
 
 /// Adds what callgrind wrote to \a file: what its task is called, and its instructions.
 void addCount(const QString &file, Costs &instructions)
@@ -50,21 +32,7 @@ void addCount(const QString &file, Costs &instructions)
 
 } // namespace
 
-Costs timesOf(const std::vector<Task> &tasks)
-{
-    benchmark::ClearRegisteredBenchmarks();
-    for (const Task &task : tasks) {
-        benchmark::RegisterBenchmark(task.name.c_str(), [&task](benchmark::State &state) {
-            for (auto _ : state)
-                task.run();
-        });
-    }
-    MedianReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return reporter.medians;
-}
-
-Costs instructionsOf(const std::vector<Task> &tasks)
+Costs countInstructions()
 {
     const QTemporaryDir folder;
     QProcess valgrind;
@@ -84,10 +52,6 @@ Costs instructionsOf(const std::vector<Task> &tasks)
     const QFileInfoList dumps = QDir(folder.path()).entryInfoList({QStringLiteral("counts.*")});
     for (const QFileInfo &dump : dumps)
         addCount(dump.filePath(), instructions);
-    for (const Task &task : tasks) {
-        if (instructions.count(task.name) == 0)
-            return {};
-    }
     return instructions;
 }
 
@@ -101,16 +65,14 @@ bool isCountedRun()
     return QCoreApplication::arguments().constLast() == countOption();
 }
 
-void runCounted(const std::vector<Task> &tasks)
+void runCounted(const Task &task)
 {
-    for (const Task &task : tasks) {
-        task.run(); // so that what is done only once is not counted
-        CALLGRIND_START_INSTRUMENTATION;
-        CALLGRIND_ZERO_STATS;
-        task.run();
-        CALLGRIND_DUMP_STATS_AT(task.name.c_str());
-        CALLGRIND_STOP_INSTRUMENTATION;
-    }
+    task.run(); // so that what is done only once is not counted
+    CALLGRIND_START_INSTRUMENTATION;
+    CALLGRIND_ZERO_STATS;
+    task.run();
+    CALLGRIND_DUMP_STATS_AT(task.name.c_str());
+    CALLGRIND_STOP_INSTRUMENTATION;
 }
 
 } // namespace bench

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <functional>
+#include <map>
+#include <string>
+
+namespace bench {
+
+struct Task
+{
+    std::string name;
+    std::function<void()> run;
+};
+
+/// What tasks cost, by their names.
+using Costs = std::map<std::string, double>;
+
+/// Runs this program again under callgrind, with the same arguments and countOption() behind them, and returns what the
+/// tasks of that run took. Instructions do not depend on what else the machine does. Empty if valgrind is missing or
+/// fails.
+Costs countInstructions();
+
+/// The argument that marks the run under callgrind.
+QString countOption();
+
+/// Whether this is that run.
+bool isCountedRun();
+
+/// In that run: runs \a task and has its instructions noted down.
+void runCounted(const Task &task);
+
+} // namespace bench

@@ -1,0 +1,141 @@
+// What is read of hostile replies, at what cost.
+
+#include "cost.h"
+#include "documents.h"
+#include "readers.h"
+#include "support/sanitizers.h"
+
+#include <vorn/util/xmlresponse.h>
+
+#include <QtCore/QThread>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <functional>
+#include <malloc.h>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <sys/resource.h>
+
+namespace hostile {
+
+static void PrintTo(const Document &document, std::ostream *stream)
+{
+    *stream << document.name;
+}
+
+} // namespace hostile
+
+using hostile::Cost;
+using hostile::Document;
+
+namespace {
+
+/// Under a sanitizer, which slows the program down tenfold, there is a tenth of everything.
+constexpr qsizetype scale = test::sanitized ? 10 : 1;
+
+constexpr rlim_t stackSize = 1024 * 1024;
+
+class Surroundings : public testing::Environment
+{
+    void SetUp() override
+    {
+        // All tests run on a small stack, as that of a thread may be.
+        rlimit limit = {};
+        ASSERT_EQ(getrlimit(RLIMIT_STACK, &limit), 0);
+        limit.rlim_cur = stackSize;
+        ASSERT_EQ(setrlimit(RLIMIT_STACK, &limit), 0);
+#ifdef __GLIBC__
+        // Memory that has gone back to the system comes again with a page fault for each page, which takes longer than
+        // to read what is there.
+        mallopt(M_TRIM_THRESHOLD, 1 << 30);
+        mallopt(M_MMAP_THRESHOLD, 1 << 30);
+#endif
+    }
+};
+
+[[maybe_unused]] const testing::Environment *const surroundings = testing::AddGlobalTestEnvironment(new Surroundings);
+
+void useStack(rlim_t size)
+{
+    volatile char frame[4096] = {};
+    if (size > sizeof frame)
+        useStack(size - sizeof frame);
+    frame[0] = 1;
+}
+
+TEST(HostileStackDeathTest, isAsSmallAsItSays)
+{
+    useStack(stackSize / 2);
+    EXPECT_DEATH(useStack(2 * stackSize), "");
+}
+
+/// Expects of \a large, which has ten times the size of \a small, a cost of about ten times: up to thirty, as a
+/// processor gets slower where its caches end, and a buffer that doubles may be half empty. What grows with the square
+/// of the size comes to a hundred.
+void expectProportion(const std::function<void()> &small, const std::function<void()> &large)
+{
+    constexpr int limit = 30;
+    const Cost smallCost = hostile::costOf(small);
+    Cost largeCost = hostile::costOf(large);
+    // Whatever else the machine does can only make it slower.
+    for (int again = 0; again < 2 && largeCost.seconds > limit * smallCost.seconds; ++again)
+        largeCost = hostile::costOf(large);
+    EXPECT_LE(largeCost.seconds, limit * smallCost.seconds);
+    EXPECT_LE(largeCost.peakBytes, limit * smallCost.peakBytes);
+}
+
+class HostileDocument : public testing::TestWithParam<Document>
+{
+};
+
+TEST_P(HostileDocument, ofFullSizeIsReadRightInProportionToItsSize)
+{
+    const auto [name, fullCount, make, isReadRight] = GetParam();
+    const qsizetype count = fullCount / scale;
+    const QByteArray large = make(count);
+    const QByteArray small = make(count / 10);
+    expectProportion([&] { EXPECT_TRUE(isReadRight(small, count / 10)); },
+                     [&] { EXPECT_TRUE(isReadRight(large, count)); });
+}
+
+TEST_P(HostileDocument, isReadByAllRecordsInProportionToItsSize)
+{
+    const qsizetype count = GetParam().count / scale / 10;
+    const QByteArray large = GetParam().make(count);
+    const QByteArray small = GetParam().make(count / 10);
+    expectProportion([&] { hostile::readAll(small); }, [&] { hostile::readAll(large); });
+}
+
+TEST_P(HostileDocument, isReadOnTheStackOfASmallThread)
+{
+    const qsizetype count = GetParam().count / 1000;
+    const QByteArray reply = GetParam().make(count);
+    const std::unique_ptr<QThread> thread(QThread::create([&] { hostile::readAll(reply); }));
+    thread->setStackSize(test::sanitized ? stackSize : stackSize / 4); // whose checks take stack too
+    thread->start();
+    EXPECT_TRUE(thread->wait());
+}
+
+// What all readers do together hides what this takes.
+TEST(HostileNuls, areReplacedInProportionToTheirNumber)
+{
+    const auto replyWith = [](qsizetype nuls) { return "<r>" + QByteArray("x\0", 2).repeated(nuls) + "</r>"; };
+    const QByteArray small = replyWith(200000);
+    const QByteArray large = replyWith(2000000);
+    expectProportion([&] { vorn::XmlResponse(small, QString()); }, [&] { vorn::XmlResponse(large, QString()); });
+}
+
+std::string testName(const testing::TestParamInfo<Document> &document)
+{
+    std::string name = document.param.name;
+    const auto isOther = [](char character) { return std::isalnum(static_cast<unsigned char>(character)) == 0; };
+    std::replace_if(name.begin(), name.end(), isOther, '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Replies, HostileDocument, testing::ValuesIn(hostile::documents()), testName);
+
+} // namespace
