@@ -79,7 +79,8 @@ class IsolationDeathTest : public testing::Test
 TEST_F(IsolationDeathTest, endsWhatOpensConnectsPrintsOrStartsAnything)
 {
     const testing::KilledBySignal killed(SIGSYS);
-    EXPECT_EXIT(runIsolated([] { (void)std::fopen("/dev/null", "r"); }), killed, "");
+    const auto open = [] { [[maybe_unused]] std::FILE *const file = std::fopen("/dev/null", "r"); };
+    EXPECT_EXIT(runIsolated(open), killed, "");
     EXPECT_EXIT(runIsolated([] { (void)socket(AF_INET, SOCK_STREAM, 0); }), killed, "");
     EXPECT_EXIT(runIsolated([] { std::printf("x"); }), killed, "");
     EXPECT_EXIT(runIsolated([] { qWarning("x"); }), killed, "");
