@@ -30,6 +30,9 @@ PROCESSOR_SECONDS = 30
 MEMORY_BYTES = 4 << 30
 WALL_SECONDS = 300
 
+# In percent of the mutants.
+LIMIT = 95
+
 TOKEN = re.compile(
     r"""(?P<comment>//[^\n]*)
     |(?P<directive>^[ ]*\#(?:[^\n]*\\\n)*[^\n]*)
@@ -37,7 +40,7 @@ TOKEN = re.compile(
     |(?P<character>\b(?:u|U|L)?'(?:\\.|[^'\\])*'|'(?:\\.|[^'\\])*')
     |(?P<number>\b[0-9][\w.]*)
     |(?P<word>[A-Za-z_]\w*)
-    |(?P<operator>::|->|\+\+|--|<<|[-+*/=!<>|&]=|&&|\|\||[^\s\w])""",
+    |(?P<operator>::|->|\+\+|--|<<|>>|[-+*/=!<>|&^]=|&&|\|\||[^\s\w])""",
     re.MULTILINE | re.VERBOSE,
 )
 
@@ -56,13 +59,17 @@ OPERATORS = {
     "*": [("arithmetic", "/")],
     "/": [("arithmetic", "*")],
     "+=": [("arithmetic", "-=")],
+    "*=": [("arithmetic", "+=")],
     "|=": [("arithmetic", "&=")],
+    "^=": [("arithmetic", "|=")],
+    "<<": [("arithmetic", ">>")],
+    ">>": [("arithmetic", "<<")],
     "?": [("condition-false", "&& false ?"), ("condition-true", "|| true ?")],
 }
 
 NO_EXPRESSION = set(
     "break case class const constexpr continue default else enum explicit extern for friend if inline namespace private"
-    " protected public return static struct template typedef using virtual while".split()
+    " protected public return static static_assert struct template typedef using virtual while".split()
 )
 
 
@@ -72,16 +79,17 @@ class Mutation:
     line: int
     column: int
     kind: str
-    start: int
-    end: int
-    text: str
+    original: str
+    mutated: str
 
     @property
     def id(self):
         return f"{self.path}:{self.line}:{self.column}:{self.kind}"
 
-    def applied_to(self, source):
-        return source[: self.start] + self.text + source[self.end :]
+    @property
+    def diff(self):
+        lines = difflib.unified_diff(self.original.splitlines(), self.mutated.splitlines(), lineterm="", n=0)
+        return "\n".join(list(lines)[2:])
 
 
 def tokens_of(source):
@@ -135,7 +143,8 @@ def mutations_of(path, source):
     def add(kind, start, end, text):
         line = source.count("\n", 0, start) + 1
         column = start - source.rfind("\n", 0, start)
-        found.append(Mutation(path, line, column, kind, start, end, text))
+        mutated = source[:start] + text + source[end:]
+        found.append(Mutation(path, line, column, kind, source, mutated))
 
     for index, (kind, text, start, end) in enumerate(tokens):
         if kind == "operator":
@@ -164,8 +173,9 @@ def mutations_of(path, source):
                 continue
             if text == "return" and last > index + 1:
                 value = source[tokens[index + 1][2] : tokens[last][2]]
-                if value != "{}":
+                if value not in ("{}", "false", "nullptr", "std::nullopt", "*this"):  # the default, or never compiles
                     add("return-default", tokens[index + 1][2], tokens[last][2], "{}")
+                if value not in ("{}", "true", "false", "*this"):  # never compiles, or the same as another
                     add("return-negated", tokens[index + 1][2], tokens[last][2], f"!({value})")
             elif text in ("return", "break", "continue") or (
                 tokens[index - 1][1] != ":" and is_expression(tokens[index:last])
@@ -220,11 +230,11 @@ class Workshop:
         self._copy_repository()
         run = lambda *command: subprocess.run(command, capture_output=True, text=True)
         configured = run(
-            "cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja", "-DCMAKE_CXX_FLAGS=-O0",
-            "-DVORNSDK_ONVIF_INSTALL=OFF",
+            "cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+            "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DVORNSDK_ONVIF_INSTALL=OFF",
             "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",  # a changed library needs no program linked anew
             f"-DCMAKE_PROJECT_INCLUDE={self.tree}/tests/mutation/precompile.cmake",
-        )  # fmt: skip
+        )
         if configured.returncode != 0:
             sys.exit(configured.stdout + configured.stderr + "The configuration failed; its output stands above.")
         built = self._run_build()
@@ -238,7 +248,7 @@ class Workshop:
         listed = subprocess.run(
             ["git", "ls-files", "--cached", "--others", "--exclude-standard"],
             cwd=ROOT, capture_output=True, text=True, check=True,
-        )  # fmt: skip
+        )
         for name in listed.stdout.splitlines():
             source, target = ROOT / name, self.tree / name
             if not source.exists():
@@ -266,7 +276,7 @@ class Workshop:
                 ended = subprocess.run(
                     command, preexec_fn=limit_resources, timeout=WALL_SECONDS,
                     stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                )  # fmt: skip
+                )
             except subprocess.TimeoutExpired:
                 return f"{name} (out of time)"
             if ended.returncode != 0:
@@ -276,15 +286,14 @@ class Workshop:
     def verdict(self, mutation):
         """"survived", "no mutant" if it does not compile, or the name of the test that caught it."""
         path = self.tree / mutation.path
-        source = path.read_text()
-        path.write_text(mutation.applied_to(source))
+        path.write_text(mutation.mutated)
         try:
             if self._run_build().returncode != 0:
                 return "no mutant"
             folder = mutation.path.split("/")[1]
             return self._failed_test(folder) or "survived"
         finally:
-            path.write_text(source)
+            path.write_text(mutation.original)
 
 
 class Log:
@@ -300,26 +309,21 @@ class Log:
         self._lock = threading.Lock()
 
     def of(self, mutation):
-        return self.verdicts.get((mutation.id, diff_of(mutation)))
+        return self.verdicts.get((mutation.id, mutation.diff))
 
     def add(self, mutation, verdict):
-        entry = {"id": mutation.id, "diff": diff_of(mutation), "verdict": verdict}
+        entry = {"id": mutation.id, "diff": mutation.diff, "verdict": verdict}
         with self._lock, self.path.open("a") as file:
             file.write(json.dumps(entry) + "\n")
             self.verdicts[entry["id"], entry["diff"]] = verdict
 
 
-def diff_of(mutation):
-    source = (ROOT / mutation.path).read_text()
-    before, after = source.splitlines(), mutation.applied_to(source).splitlines()
-    return "\n".join(list(difflib.unified_diff(before, after, lineterm="", n=0))[2:])
-
-
 def try_all(mutations, log, jobs):
+    print(f"Building {jobs} copies of the repository below {WORK.relative_to(ROOT)}", flush=True)
     workshops = queue.Queue()
-    for number in range(jobs):
+
+    def prepare_one(number):
         workshop = Workshop(WORK / str(number))
-        print(f"Building the copy {workshop.tree.relative_to(ROOT)}", flush=True)
         workshop.prepare()
         workshops.put(workshop)
 
@@ -333,8 +337,8 @@ def try_all(mutations, log, jobs):
         print(f"{mutation.id}: {verdict}", flush=True)
 
     with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-        for _ in pool.map(try_one, mutations):
-            pass
+        list(pool.map(prepare_one, range(jobs)))
+        list(pool.map(try_one, mutations))
 
 
 def print_result(mutations, log):
@@ -352,27 +356,30 @@ def print_result(mutations, log):
     print(f"{'Total':50} {total.total():8} {total['caught']:8} {total['survived']:8}  {share:.1f} % caught")
     for mutation in mutations:
         if log.of(mutation) == "survived":
-            print(f"\nsurvived: {mutation.id}\n{diff_of(mutation)}")
+            print(f"\nsurvived: {mutation.id}\n{mutation.diff}")
     return share
 
 
 def main():
-    parser = argparse.ArgumentParser()
+    parser = argparse.ArgumentParser(prog="scripts/mutate", add_help=False)
     parser.add_argument("--list", action="store_true")
     parser.add_argument("--again", action="store_true")
     parser.add_argument("--count", type=int, default=500)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--jobs", type=int, default=1)
-    parser.add_argument("--limit", type=float, default=95)
-    parser.add_argument("path", nargs="*")
+    parser.add_argument("file", nargs="*")
     options = parser.parse_args()
 
-    mutations = chosen(source_files(), options.count, options.seed)
-    if options.path:
-        mutations = [mutation for mutation in mutations if mutation.path in options.path]
+    files = source_files()
+    names = [str(path.relative_to(ROOT)) for path in files]
+    for unknown in set(options.file) - set(names):
+        parser.error(f"{unknown} is no source file below src.")
+    mutations = chosen(files, options.count, options.seed)
+    if options.file:
+        mutations = [mutation for mutation in mutations if mutation.path in options.file]
     if options.list:
         for mutation in mutations:
-            print(f"{mutation.id}\n{diff_of(mutation)}")
+            print(f"{mutation.id}\n{mutation.diff}")
         return 0
 
     WORK.mkdir(parents=True, exist_ok=True)
@@ -380,7 +387,7 @@ def main():
     wanted = [mutation for mutation in mutations if log.of(mutation) in ([None, "survived"] if options.again else [None])]
     if wanted:
         try_all(wanted, log, options.jobs)
-    return 0 if print_result(mutations, log) >= options.limit else 1
+    return 0 if print_result(mutations, log) >= LIMIT else 1
 
 
 if __name__ == "__main__":

@@ -94,6 +94,12 @@ TEST(XmlResponseEncoding, declarationMayBeWrittenInManyWays)
     }
 }
 
+TEST(XmlResponseEncoding, nameOfAnEncodingMayHoldUnderscores)
+{
+    XmlResponse response("<?xml version='1.0' encoding='ISO_8859_1'?><a>\xE9</a>", "");
+    EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9"));
+}
+
 TEST(XmlResponseEncoding, uselessDeclarationMeansUtf8)
 {
     for (const char *declaration : {
@@ -107,6 +113,8 @@ TEST(XmlResponseEncoding, uselessDeclarationMeansUtf8)
              "<?xml version='1.0' encoding='ISO-8859-1?>",
              "<?xml version='1.0' encoding=ISO-8859-1?>",
              "<?xml version='1.0' encoding='../../../etc/passwd'?>",
+             "<?xml version='1.0' encoding='[ISO-8859-1]'?>",
+             "<?xml version='1.0' encoding='{ISO-8859-1}'?>",
              "<?xml version='1.0' encoding='locale'?>",
              "<?xml version='1.0' encoding='system'?>",
              // The text was UTF-16 when the device wrote the declaration, but not when it sent it.

@@ -238,6 +238,13 @@ TEST(XmlResponsePath, namesBeyondAsciiMatch)
     EXPECT_EQ(response.get("").children.first().name, QStringLiteral(u"gr\u00F6\u00DFe"));
 }
 
+TEST(XmlResponsePath, namesThatStartBeyondAsciiMatch)
+{
+    XmlResponse response("<a><\xC3\xA4>1</\xC3\xA4><\xC3\xB6>2</\xC3\xB6></a>", "/a");
+    EXPECT_EQ(response.getText(QStringLiteral(u"/\u00F6")), "2");
+    EXPECT_FALSE(response.get(QStringLiteral(u"/\u00C3")).valid);
+}
+
 TEST(XmlResponsePath, firstOfSeveralMatchesIsTaken)
 {
     XmlResponse response("<a><b id='1'/><b id='2'><c>deep</c></b></a>", "/a");
