@@ -94,6 +94,24 @@ TEST(XmlResponseEncoding, declarationMayBeWrittenInManyWays)
     }
 }
 
+TEST(XmlResponseEncoding, nameOfAnEncodingMayHoldAnyLetterAndDigit)
+{
+    if (!QStringDecoder("GB2312").isValid())
+        GTEST_SKIP() << "This Qt was built without ICU and knows few encodings.";
+    for (const char *encoding : {"HZ", "hz"}) {
+        XmlResponse response("<?xml version='1.0' encoding='" + QByteArray(encoding) + "'?><a>~{VP~}</a>", "");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u4E2D")) << encoding;
+    }
+    for (const char *encoding : {"IBM850", "ibm850"}) {
+        XmlResponse response("<?xml version='1.0' encoding='" + QByteArray(encoding) + "'?><a>\x82</a>", "");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9")) << encoding;
+    }
+    for (const char *encoding : {"MACINTOSH", "macintosh"}) {
+        XmlResponse response("<?xml version='1.0' encoding='" + QByteArray(encoding) + "'?><a>\x8E</a>", "");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9")) << encoding;
+    }
+}
+
 TEST(XmlResponseEncoding, nameOfAnEncodingMayHoldUnderscores)
 {
     XmlResponse response("<?xml version='1.0' encoding='ISO_8859_1'?><a>\xE9</a>", "");

@@ -240,8 +240,9 @@ TEST(XmlResponsePath, namesBeyondAsciiMatch)
 
 TEST(XmlResponsePath, namesThatStartBeyondAsciiMatch)
 {
-    XmlResponse response("<a><\xC3\xA4>1</\xC3\xA4><\xC3\xB6>2</\xC3\xB6></a>", "/a");
+    XmlResponse response("<a><\xC3\xA4>1</\xC3\xA4><\xC3\xB6>2</\xC3\xB6><\xC2\x80>3</\xC2\x80></a>", "/a");
     EXPECT_EQ(response.getText(QStringLiteral(u"/\u00F6")), "2");
+    EXPECT_EQ(response.getText(QStringLiteral(u"/\u0080")), "3") << "the first character beyond ASCII";
     EXPECT_FALSE(response.get(QStringLiteral(u"/\u00C3")).valid);
 }
 
