@@ -93,14 +93,15 @@ TEST(FaultTables, haveOneRowForEachType)
 {
     const SoapCode codes[] = {{":A", fault1, nullptr, {}}};
     const TextCode zero[] = {{"", fault0, "", nullptr}};
+    const TextCode zeroTwice[] = {{"", fault0, "", nullptr}, {"", fault0, "", nullptr}};
     const TextCode two[] = {{"", fault2, "", nullptr}};
+    const Rows<TextCode> none;
     EXPECT_TRUE(eachStandsInOneRow(fault2, Rows(codes), Rows(zero), Rows(two)));
-    EXPECT_FALSE(eachStandsInOneRow(fault2, Rows(codes), Rows(zero))) << "the last is missing";
-    EXPECT_FALSE(eachStandsInOneRow(fault2, Rows(codes), Rows(two))) << "the first is missing";
-    EXPECT_FALSE(eachStandsInOneRow(fault2, Rows(zero), Rows(two))) << "one between them is missing";
-    EXPECT_FALSE(eachStandsInOneRow(fault2, Rows(codes), Rows(zero), Rows(two), Rows(two))) << "one is there twice";
-    const TextCode twice[] = {{"", fault0, "", nullptr}, {"", fault0, "", nullptr}};
-    EXPECT_FALSE(eachStandsInOneRow(fault0, Rows(twice)));
+    EXPECT_FALSE(eachStandsInOneRow(fault2, Rows(codes), Rows(zero), none)) << "the last is missing";
+    EXPECT_FALSE(eachStandsInOneRow(fault2, Rows(codes), none, Rows(two))) << "the first is missing";
+    EXPECT_FALSE(eachStandsInOneRow(fault2, Rows<SoapCode>(), Rows(zero), Rows(two))) << "one between them is missing";
+    EXPECT_FALSE(eachStandsInOneRow(fault2, Rows(codes), Rows(zeroTwice), Rows(two))) << "one table holds it twice";
+    EXPECT_FALSE(eachStandsInOneRow(fault1, Rows(codes), Rows(zero), Rows(zero))) << "two tables hold it";
 }
 
 TEST(FaultTables, haveRowsForEachTypeBelowACode)
