@@ -79,10 +79,10 @@ TEST(AppendElements, addsBehindWhatTheListHolds)
 
 TEST(AppendElements, takesNoMoreRoomThanTheElementsNeed)
 {
-    ElementVector list("<r><Item/><Options/><Options/><Options/><Options/></r>", "/r");
+    ElementVector list("<r><Item/><Options/><Options/><Options/><Options/><Options/></r>", "/r");
     vorn::appendElements(list, QStringLiteral("/Options"));
-    EXPECT_EQ(list.size(), 5);
-    EXPECT_EQ(list.capacity(), 5);
+    EXPECT_EQ(list.size(), 6);
+    EXPECT_EQ(list.capacity(), 6);
 }
 
 TEST(AppendElements, putsElementsThroughTheirOwnCopyOperation)

@@ -365,7 +365,7 @@ def main():
     parser = argparse.ArgumentParser(prog="scripts/mutate", add_help=False)
     parser.add_argument("--list", action="store_true")
     parser.add_argument("--again", action="store_true")
-    parser.add_argument("--count", type=int, default=320)
+    parser.add_argument("--count", type=int, default=350)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--jobs", type=int, default=1)
     parser.add_argument("file", nargs="*")

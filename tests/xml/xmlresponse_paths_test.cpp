@@ -295,6 +295,15 @@ TEST(XmlResponseNodePath, ofAnotherNameIsMissing)
     EXPECT_EQ(response.getUInt(node, "/x/b"), 0U);
 }
 
+TEST(XmlResponseNodePath, ofASiblingIsMissing)
+{
+    XmlResponse response("<r><a>1</a><b>2</b></r>", "");
+    const XmlResponseNode parent = response.get("/r");
+    ASSERT_EQ(parent.children.size(), 2);
+    EXPECT_FALSE(response.get(parent.children[0], "/b").valid);
+    EXPECT_FALSE(response.get(parent.children[1], "/a").valid);
+}
+
 TEST(XmlResponseNodePath, belowAMissingNodeIsMissing)
 {
     XmlResponse response("<r/>", "/r");
