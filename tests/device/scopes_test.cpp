@@ -276,7 +276,7 @@ TEST(OnvifScopeMapFixedValue, missingKeyIsTheCallersError)
 #ifdef QT_NO_DEBUG
     EXPECT_TRUE(scopes.fixedValue("missing").isNull());
 #else
-    EXPECT_DEATH(scopes.fixedValue("missing"), "the map does not hold the key");
+    EXPECT_DEATH(scopes.fixedValue("missing"), "OnvifScopeMap::fixedValue: \"the map does not hold the key\"");
 #endif
 }
 
