@@ -170,6 +170,13 @@ TEST(XmlResponseBytes, illFormedUtf8BecomesAReplacementCharacterWhereItStands)
     EXPECT_TRUE(response.xml().contains(QStringLiteral(u"a\uFFFDz")));
 }
 
+TEST(XmlResponseBytes, loneContinuationByteIsIllFormed)
+{
+    XmlResponse response("<a>\x80</a>", "");
+    EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\uFFFD"));
+    EXPECT_EQ(response.get("/a").element.text(), QStringLiteral(u"\uFFFD"));
+}
+
 TEST(XmlResponseBytes, illFormedNameIsTheSameInPathAndNode)
 {
     XmlResponse response("<r><a\xFF>1</a\xFF></r>", "/r");
