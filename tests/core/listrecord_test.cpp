@@ -77,6 +77,14 @@ TEST(AppendElements, addsBehindWhatTheListHolds)
     EXPECT_EQ(list[1].text, "2");
 }
 
+TEST(AppendElements, takesNoMoreRoomThanTheElementsNeed)
+{
+    ElementVector list("<r><Item/><Options/><Options/><Options/><Options/><Options/></r>", "/r");
+    vorn::appendElements(list, QStringLiteral("/Options"));
+    EXPECT_EQ(list.size(), 6);
+    EXPECT_EQ(list.capacity(), 6);
+}
+
 TEST(AppendElements, putsElementsThroughTheirOwnCopyOperation)
 {
     const ElementVector list("<r><Item/></r>", "/r");

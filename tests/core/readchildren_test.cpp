@@ -190,6 +190,8 @@ TEST(ReadChildren, badTextReplacesAGoodNumberByZero)
     EXPECT_EQ(read("<A>7</A><A>1.5</A>", 5), 0);
     EXPECT_EQ(read("<A>7</A><A>1.5</A>", 5U), 0U);
     EXPECT_EQ(read("<A>7</A><A>1,5</A>", 5.0), 0.0);
+    // The low byte of its first character is that of a digit.
+    EXPECT_EQ(read("<A>7</A><A>&#x131;5</A>", 5.0), 0.0);
 }
 
 TEST(ReadChildren, readsBooleansOfTheWordTrueAlone)

@@ -415,6 +415,7 @@ TEST(OnvifCameraAddress, losesTheDefaultPortOfAnIPv6Address)
         {"[::1]x", "[::1]x"},
         {"[::1]:080", "[::1]"},
         {"[a]b]:80", "[a]b]"},
+        {"80", "80"},
         {":80", ""},
     };
     for (const TextRow &row : rows)

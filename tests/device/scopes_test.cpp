@@ -74,6 +74,7 @@ struct UriRow
 const UriRow uris[] = {
     {"onvif://www.onvif.org/name/My%20Camera", u"name", u"My Camera"},
     {"onvif://www.onvif.org/name/K%C3%BCche", u"name", u"K\u00FCche"},
+    {"onvif://www.onvif.org/name/K\xC3\xBC%63he", u"name", u"K\u00FCche"},
     {"onvif://www.onvif.org/na%6De/x", u"name", u"x"},
     {"onvif://www.onvif.org/my%20key/a%2Fb/c", u"my key", u"a/b/c"},
     {"onvif://www.onvif.org/name/100%", u"name", u"100%"},
@@ -275,7 +276,7 @@ TEST(OnvifScopeMapFixedValue, missingKeyIsTheCallersError)
 #ifdef QT_NO_DEBUG
     EXPECT_TRUE(scopes.fixedValue("missing").isNull());
 #else
-    EXPECT_DEATH(scopes.fixedValue("missing"), "the map does not hold the key");
+    EXPECT_DEATH(scopes.fixedValue("missing"), "OnvifScopeMap::fixedValue: \"the map does not hold the key\"");
 #endif
 }
 

@@ -39,6 +39,48 @@ TEST(RecentValues, keepsApartWhatStandsAtOnePlace)
     }
 }
 
+/// How often a value is made of \a texts when each comes up twice.
+std::size_t timesMade(const std::vector<std::string> &texts)
+{
+    RecentValues<std::size_t> values;
+    std::size_t made = 0;
+    for (int i = 0; i < 2; ++i) {
+        for (const std::string &text : texts)
+            values.of(text, [&made](std::string_view) { return ++made; });
+    }
+    return made;
+}
+
+TEST(RecentValues, remembersAllTextsThatDifferAtEitherEnd)
+{
+    for (std::size_t size = 1; size <= 20; ++size) {
+        std::vector<std::string> atTheStart;
+        std::vector<std::string> atTheEnd;
+        for (char letter = 'a'; letter <= 'z'; ++letter) {
+            atTheStart.push_back(letter + std::string(size - 1, '-'));
+            atTheEnd.push_back(std::string(size - 1, '-') + letter);
+        }
+        EXPECT_EQ(timesMade(atTheStart), 26) << size;
+        EXPECT_EQ(timesMade(atTheEnd), 26) << size;
+    }
+}
+
+TEST(RecentValues, remembersAllTextsThatDifferInTheirLength)
+{
+    std::vector<std::string> texts;
+    for (std::size_t size = 0; size < 32; ++size)
+        texts.emplace_back(size, '-');
+    EXPECT_EQ(timesMade(texts), 32);
+}
+
+TEST(RecentValues, remembersAllTextsOfThreeCharactersThatDifferInTheMiddle)
+{
+    std::vector<std::string> texts;
+    for (char letter = 'a'; letter <= 'z'; ++letter)
+        texts.push_back(std::string("-") + letter + "-");
+    EXPECT_EQ(timesMade(texts), 26);
+}
+
 TEST(RecentValues, readsNoByteBesideAText)
 {
     RecentValues<std::size_t> values;

@@ -94,6 +94,30 @@ TEST(XmlResponseEncoding, declarationMayBeWrittenInManyWays)
     }
 }
 
+TEST(XmlResponseEncoding, nameOfAnEncodingMayHoldAnyLetterAndDigit)
+{
+    if (!QStringDecoder("GB2312").isValid())
+        GTEST_SKIP() << "This Qt was built without ICU and knows few encodings.";
+    for (const char *encoding : {"HZ", "hz"}) {
+        XmlResponse response("<?xml version='1.0' encoding='" + QByteArray(encoding) + "'?><a>~{VP~}</a>", "");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u4E2D")) << encoding;
+    }
+    for (const char *encoding : {"IBM850", "ibm850"}) {
+        XmlResponse response("<?xml version='1.0' encoding='" + QByteArray(encoding) + "'?><a>\x82</a>", "");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9")) << encoding;
+    }
+    for (const char *encoding : {"MACINTOSH", "macintosh"}) {
+        XmlResponse response("<?xml version='1.0' encoding='" + QByteArray(encoding) + "'?><a>\x8E</a>", "");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9")) << encoding;
+    }
+}
+
+TEST(XmlResponseEncoding, nameOfAnEncodingMayHoldUnderscores)
+{
+    XmlResponse response("<?xml version='1.0' encoding='ISO_8859_1'?><a>\xE9</a>", "");
+    EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\u00E9"));
+}
+
 TEST(XmlResponseEncoding, uselessDeclarationMeansUtf8)
 {
     for (const char *declaration : {
@@ -107,6 +131,8 @@ TEST(XmlResponseEncoding, uselessDeclarationMeansUtf8)
              "<?xml version='1.0' encoding='ISO-8859-1?>",
              "<?xml version='1.0' encoding=ISO-8859-1?>",
              "<?xml version='1.0' encoding='../../../etc/passwd'?>",
+             "<?xml version='1.0' encoding='[ISO-8859-1]'?>",
+             "<?xml version='1.0' encoding='{ISO-8859-1}'?>",
              "<?xml version='1.0' encoding='locale'?>",
              "<?xml version='1.0' encoding='system'?>",
              // The text was UTF-16 when the device wrote the declaration, but not when it sent it.
@@ -142,6 +168,13 @@ TEST(XmlResponseBytes, illFormedUtf8BecomesAReplacementCharacterWhereItStands)
     EXPECT_TRUE(response.getText("/wide").startsWith(QChar(0xFFFD)));
     EXPECT_EQ(response.getText("/good"), "ok");
     EXPECT_TRUE(response.xml().contains(QStringLiteral(u"a\uFFFDz")));
+}
+
+TEST(XmlResponseBytes, loneContinuationByteIsIllFormed)
+{
+    XmlResponse response("<a>\x80</a>", "");
+    EXPECT_EQ(response.getText("/a"), QStringLiteral(u"\uFFFD"));
+    EXPECT_EQ(response.get("/a").element.text(), QStringLiteral(u"\uFFFD"));
 }
 
 TEST(XmlResponseBytes, illFormedNameIsTheSameInPathAndNode)

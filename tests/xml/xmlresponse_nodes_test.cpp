@@ -67,6 +67,15 @@ TEST(XmlResponseNode, holdsItsChildrenAtAllDepthsInDocumentOrder)
     EXPECT_EQ(resolution.children[1].element.text(), "480");
 }
 
+TEST(XmlResponseNode, takesNoMoreRoomThanItsChildrenNeed)
+{
+    XmlResponse response("<a>text<b/>text<b/>text<b/>text<b/>text<b/></a>", "");
+    const XmlResponseNode node = response.get("/a");
+    EXPECT_EQ(node.children.size(), 5);
+    EXPECT_EQ(node.children.capacity(), 5);
+    EXPECT_EQ(node.children[0].children.capacity(), 0);
+}
+
 TEST(XmlResponseNode, elementIsTheOneOfTheChildNode)
 {
     XmlResponse response("<r><a><b/></a></r>", "");

@@ -238,6 +238,14 @@ TEST(XmlResponsePath, namesBeyondAsciiMatch)
     EXPECT_EQ(response.get("").children.first().name, QStringLiteral(u"gr\u00F6\u00DFe"));
 }
 
+TEST(XmlResponsePath, namesThatStartBeyondAsciiMatch)
+{
+    XmlResponse response("<a><\xC3\xA4>1</\xC3\xA4><\xC3\xB6>2</\xC3\xB6><\xC2\x80>3</\xC2\x80></a>", "/a");
+    EXPECT_EQ(response.getText(QStringLiteral(u"/\u00F6")), "2");
+    EXPECT_EQ(response.getText(QStringLiteral(u"/\u0080")), "3") << "the first character beyond ASCII";
+    EXPECT_FALSE(response.get(QStringLiteral(u"/\u00C3")).valid);
+}
+
 TEST(XmlResponsePath, firstOfSeveralMatchesIsTaken)
 {
     XmlResponse response("<a><b id='1'/><b id='2'><c>deep</c></b></a>", "/a");
@@ -285,6 +293,15 @@ TEST(XmlResponseNodePath, ofAnotherNameIsMissing)
     EXPECT_FALSE(response.get(node, "a/b").valid);
     EXPECT_TRUE(response.getText(node, "/x/b").isNull());
     EXPECT_EQ(response.getUInt(node, "/x/b"), 0U);
+}
+
+TEST(XmlResponseNodePath, ofASiblingIsMissing)
+{
+    XmlResponse response("<r><a>1</a><b>2</b></r>", "");
+    const XmlResponseNode parent = response.get("/r");
+    ASSERT_EQ(parent.children.size(), 2);
+    EXPECT_FALSE(response.get(parent.children[0], "/b").valid);
+    EXPECT_FALSE(response.get(parent.children[1], "/a").valid);
 }
 
 TEST(XmlResponseNodePath, belowAMissingNodeIsMissing)

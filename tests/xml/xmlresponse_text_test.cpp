@@ -43,6 +43,7 @@ const TextRow wellFormedTexts[] = {
     {"&#x1F600;", u"\U0001F600"},
     {"out<b>in<c>deep</c></b>out", u"outindeepout"},
     {" <b> </b> ", u""},
+    {"one<b/>&#32;<b/>two", u"onetwo"},
     {"   ", u""},
     {"\n\t ", u""},
     {"&#32;", u""},
