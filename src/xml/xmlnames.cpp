@@ -28,14 +28,8 @@ pugi::xml_node firstNamed(pugi::xml_node node, QStringView name)
 {
     if (name.isEmpty()) // as the names of text nodes are
         return {};
-    // Most siblings differ in the first character.
-    const char16_t first = name.front().unicode();
-    for (; node; node = node.next_sibling()) {
-        const char *candidate = localName(node.name());
-        const bool mayBeEqual = static_cast<unsigned char>(*candidate) == first || first >= 0x80;
-        if (mayBeEqual && equals(candidate, name))
-            break;
-    }
+    while (node && !equals(localName(node.name()), name))
+        node = node.next_sibling();
     return node;
 }
 
