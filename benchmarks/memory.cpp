@@ -1,63 +1,15 @@
 // Compares the heap that a list of profiles takes with that of a QDomDocument of the same bytes.
 
 #include "replies.h"
+#include "support/allocations.h"
 
 #include <vorn/onvif/profiles.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtXml/QDomDocument>
 
-#include <algorithm>
-#include <functional>
 #include <iomanip>
 #include <iostream>
-#include <malloc.h>
-#include <vector>
-
-namespace {
-
-std::size_t held = 0;
-std::size_t peak = 0;
-
-void *taken(void *memory)
-{
-    held += malloc_usable_size(memory);
-    peak = std::max(peak, held);
-    return memory;
-}
-
-} // namespace
-
-// The program's malloc takes precedence over the C library's, for all libraries: if they can see it.
-extern "C" {
-
-void *__libc_malloc(std::size_t size);
-void *__libc_calloc(std::size_t count, std::size_t size);
-void *__libc_realloc(void *memory, std::size_t size);
-void __libc_free(void *memory);
-
-[[gnu::visibility("default")]] void *malloc(std::size_t size)
-{
-    return taken(__libc_malloc(size));
-}
-
-[[gnu::visibility("default")]] void *calloc(std::size_t count, std::size_t size)
-{
-    return taken(__libc_calloc(count, size));
-}
-
-[[gnu::visibility("default")]] void *realloc(void *memory, std::size_t size)
-{
-    held -= malloc_usable_size(memory);
-    return taken(__libc_realloc(memory, size));
-}
-
-[[gnu::visibility("default")]] void free(void *memory)
-{
-    held -= malloc_usable_size(memory);
-    __libc_free(memory);
-}
-}
 
 namespace {
 
@@ -71,10 +23,9 @@ struct Heap
 template <typename Make>
 Heap heapOf(const Make &make)
 {
-    const std::size_t before = held;
-    peak = held;
+    const test::AllocationCounter allocations;
     const auto object = make();
-    return {double(held - before), double(peak - before)};
+    return {double(allocations.heldBytes()), double(allocations.peakBytes())};
 }
 
 } // namespace

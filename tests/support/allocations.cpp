@@ -105,6 +105,11 @@ std::size_t AllocationCounter::count() const
     return allocations;
 }
 
+std::ptrdiff_t AllocationCounter::heldBytes() const
+{
+    return held;
+}
+
 std::size_t AllocationCounter::peakBytes() const
 {
     return static_cast<std::size_t>(peak);

@@ -15,6 +15,9 @@ public:
 
     std::size_t count() const;
 
+    /// What is held now of what has been taken since the start, less what has gone that was there before.
+    std::ptrdiff_t heldBytes() const;
+
     /// The most that was held at one time of what has been taken since the start.
     std::size_t peakBytes() const;
 };
