@@ -78,7 +78,12 @@ void CameraWalk::next()
     if (m_step == std::size(steps))
         return m_done(m_report);
     const Request &request = steps[m_step].request;
-    const QUrl url = urlFor(request.service);
+    const QString xAddr = xAddrOf(request.service);
+    const QUrl url = urlOnSameHost(m_entry, xAddr);
+    if (!xAddr.isEmpty() && url != QUrl(xAddr) && !m_notAsked.contains(xAddr)) {
+        m_notAsked.append(xAddr);
+        m_progress(QString("%1 is no address of the host that was asked, which is asked instead").arg(xAddr));
+    }
     m_progress(QString("asking %1 for %2").arg(url.toString(), request.action));
     m_client.ask(url, request, [this](const Answer &answer) { take(answer); });
 }
@@ -90,6 +95,7 @@ void CameraWalk::take(const Answer &answer)
         steps[m_step].store(m_report, answer.bytes);
     else
         m_report.failures.append({answer.action, complaint});
+    m_report.refused = m_report.refused || answer.isRefusal();
     if (!complaint.isEmpty() && !isWorthGoingOn(answer))
         return m_done(m_report);
     ++m_step;
@@ -108,12 +114,11 @@ bool CameraWalk::isUnavailable(Service service) const
     return service == Service::Media && m_report.capabilities && !m_report.capabilities->hasMedia();
 }
 
-QUrl CameraWalk::urlFor(Service service) const
+QString CameraWalk::xAddrOf(Service service) const
 {
     if (!m_report.capabilities)
-        return m_entry;
-    const vorn::OnvifCapabilities &capabilities = *m_report.capabilities;
-    return urlOnSameHost(m_entry, service == Service::Media ? capabilities.media.xAddr : capabilities.device.xAddr);
+        return {};
+    return service == Service::Media ? m_report.capabilities->media.xAddr : m_report.capabilities->device.xAddr;
 }
 
 } // namespace client

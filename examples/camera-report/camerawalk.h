@@ -4,6 +4,7 @@
 #include "soapclient.h"
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QUrl>
 
 #include <cstddef>
@@ -13,9 +14,9 @@ namespace client {
 
 /// Asks one camera for all that a report holds, one request after the other.
 ///
-/// It goes on after a fault, but ends at a failure of the transport. It also ends if the first request brings neither an
-/// answer nor a fault of SOAP, as then there is no ONVIF device; and if the credentials are refused for it, as devices
-/// lock out users who try a wrong password too often.
+/// It goes on after a fault, but ends at a failure of the transport. It also ends if the first request brings neither
+/// an answer nor a fault of SOAP, as then there is no ONVIF device; and if the credentials are refused for it, as
+/// devices lock out users who try a wrong password too often.
 class CameraWalk
 {
 public:
@@ -32,7 +33,7 @@ private:
     void next();
     void take(const Answer &answer);
     bool isWorthGoingOn(const Answer &answer) const;
-    QUrl urlFor(Service service) const;
+    QString xAddrOf(Service service) const;
     bool isUnavailable(Service service) const;
 
     QUrl m_entry; ///< the device service
@@ -41,6 +42,7 @@ private:
     Progress m_progress;
     Done m_done;
     Report m_report;
+    QStringList m_notAsked; ///< addresses of other hosts that the user has been told of
     std::size_t m_step = 0;
 };
 

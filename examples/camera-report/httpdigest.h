@@ -29,8 +29,8 @@ std::optional<DigestChallenge> digestChallenge(const QByteArray &header);
 struct DigestUse
 {
     QByteArray method;
-    QByteArray uri;          ///< path and query
-    QByteArray clientNonce;  ///< fresh for each request
+    QByteArray uri;         ///< path and query
+    QByteArray clientNonce; ///< fresh for each request
     unsigned int count = 1; ///< how often the challenge has been used, this time included
 };
 

@@ -44,10 +44,18 @@ void HttpExchange::finish()
         m_result.challenge = m_reply->rawHeader("WWW-Authenticate");
         m_result.failure = transportFailureOf(m_reply->error(), m_result.status != 0);
         if (m_result.failure != TransportFailure::None)
-            m_result.failureText = m_reply->errorString();
+            m_result.failureText = failureText();
     }
     m_done(m_result);
     deleteLater();
+}
+
+QString HttpExchange::failureText() const
+{
+    if (m_reply->error() != QNetworkReply::RemoteHostClosedError)
+        return m_reply->errorString();
+    return m_result.status == 0 ? "the connection ended before a reply over HTTP came"
+                                : "the connection ended in the middle of the reply";
 }
 
 } // namespace client

@@ -39,6 +39,7 @@ private:
     void collect();
     void stop(const QString &why);
     void finish();
+    QString failureText() const;
 
     QNetworkReply *m_reply;
     Done m_done;

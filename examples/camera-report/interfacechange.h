@@ -15,7 +15,7 @@ namespace client {
 /// How a network interface of a device is to get its IPv4 address.
 struct InterfaceChange
 {
-    QString interface; ///< name or token
+    QString interface;                                                   ///< name or token
     std::optional<vorn::OnvifNetworkInterface::PrefixedAddress> address; ///< by hand; else by DHCP
 };
 

@@ -14,7 +14,7 @@ namespace {
 
 int fail(const QString &sentence)
 {
-    example::note("camera-report: " + example::printable(sentence) + " Try --help.");
+    example::note("camera-report: " + example::printable(sentence));
     return client::CannotRun;
 }
 
@@ -31,7 +31,7 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     const client::CommandLine line = client::readCommandLine(QCoreApplication::arguments());
     if (!line.complaint.isEmpty())
-        return fail(line.complaint);
+        return fail(line.complaint + " Try --help.");
     if (!line.options) {
         example::print(line.answer);
         return client::Complete;
@@ -49,8 +49,7 @@ int main(int argc, char **argv)
     }
 
     QSocketNotifier stopped(stopDescriptor, QSocketNotifier::Read);
-    QObject::connect(&stopped, &QSocketNotifier::activated,
-                     [] { QCoreApplication::exit(client::Stopped); });
+    QObject::connect(&stopped, &QSocketNotifier::activated, [] { QCoreApplication::exit(client::Stopped); });
     client::Program program(*line.options, credentials);
     QTimer::singleShot(0, &program, [&program] { program.start(); });
     const int exitCode = QCoreApplication::exec();

@@ -1,4 +1,5 @@
 #include "options.h"
+
 #include "soap.h"
 
 #include <vorn/onvif/version.h>
@@ -34,7 +35,9 @@ struct Known
     QCommandLineOption help{{"h", "help"}, "Shows this help."};
     QCommandLineOption version{{"v", "version"}, "Shows the version."};
     QCommandLineOption address{"address", "The camera to report on. Without a PORT: 80.", "HOST[:PORT]"};
-    QCommandLineOption interface{"interface", "The network interface of this machine to search through.", "NAME"};
+    QCommandLineOption interface {
+        "interface", "The network interface of this machine to search through.", "NAME"
+    };
     QCommandLineOption probeAddress{
         "probe-address", "Where to send the probe of a search. Without it: 239.255.255.250:3702.", "ADDRESS:PORT"};
     QCommandLineOption all{"all", "Reports on each camera that is found and names the address it answers from."};
@@ -51,7 +54,7 @@ struct Known
 
     QList<QCommandLineOption> inOrder() const
     {
-        return {help,         version, address,  interface, probeAddress, all,  user,
+        return {help,         version, address, interface,  probeAddress, all,  user,
                 passwordFile, timeout, setDhcp, setAddress, apply,        json, quiet};
     }
 };

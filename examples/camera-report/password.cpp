@@ -1,11 +1,11 @@
 #include "password.h"
+
 #include "support/terminal.h"
 
 #include <QtCore/QFile>
 
 #include <array>
 #include <cerrno>
-
 #include <fcntl.h>
 #include <poll.h>
 #include <termios.h>

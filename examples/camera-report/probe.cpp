@@ -11,15 +11,16 @@
 namespace client {
 namespace {
 
-const char *const probeTemplate = R"(<?xml version="1.0" encoding="UTF-8"?><s:Envelope xmlns:s="http://www.w3.org/2003/05/soap-envelope")"
-                                  R"( xmlns:a="http://schemas.xmlsoap.org/ws/2004/08/addressing")"
-                                  R"( xmlns:d="http://schemas.xmlsoap.org/ws/2005/04/discovery")"
-                                  R"( xmlns:dn="http://www.onvif.org/ver10/network/wsdl"><s:Header>)"
-                                  R"(<a:Action>http://schemas.xmlsoap.org/ws/2005/04/discovery/Probe</a:Action>)"
-                                  R"(<a:MessageID>urn:uuid:$@</a:MessageID>)"
-                                  R"(<a:To>urn:schemas-xmlsoap-org:ws:2005:04:discovery</a:To></s:Header>)"
-                                  R"(<s:Body><d:Probe><d:Types>dn:NetworkVideoTransmitter</d:Types></d:Probe>)"
-                                  R"(</s:Body></s:Envelope>)";
+const char *const probeTemplate =
+    R"(<?xml version="1.0" encoding="UTF-8"?><s:Envelope xmlns:s="http://www.w3.org/2003/05/soap-envelope")"
+    R"( xmlns:a="http://schemas.xmlsoap.org/ws/2004/08/addressing")"
+    R"( xmlns:d="http://schemas.xmlsoap.org/ws/2005/04/discovery")"
+    R"( xmlns:dn="http://www.onvif.org/ver10/network/wsdl"><s:Header>)"
+    R"(<a:Action>http://schemas.xmlsoap.org/ws/2005/04/discovery/Probe</a:Action>)"
+    R"(<a:MessageID>urn:uuid:$@</a:MessageID>)"
+    R"(<a:To>urn:schemas-xmlsoap-org:ws:2005:04:discovery</a:To></s:Header>)"
+    R"(<s:Body><d:Probe><d:Types>dn:NetworkVideoTransmitter</d:Types></d:Probe>)"
+    R"(</s:Body></s:Envelope>)";
 
 /// Many devices answer at once. The system may grant less.
 constexpr int receiveBuffer = 4 * 1024 * 1024;
@@ -41,6 +42,14 @@ QStringList FoundCamera::addresses() const
     QStringList all = camera.addresses + camera.linkLocalAddresses;
     all.removeDuplicates();
     return all;
+}
+
+QStringList FoundCamera::types() const
+{
+    QStringList types;
+    for (const QString &type : camera.scopes.values("type"))
+        types.prepend(type); // the last of the message comes first
+    return types;
 }
 
 QString FoundCamera::ownAddress() const

@@ -4,6 +4,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QSet>
 #include <QtCore/QString>
 #include <QtNetwork/QHostAddress>
 #include <QtNetwork/QNetworkInterface>
@@ -26,8 +27,11 @@ struct FoundCamera
     /// All addresses that the camera names.
     QStringList addresses() const;
 
-    /// The first of them that is the sender's; empty if none is. An answer may name anyone: whoever is asked, and gets
-    /// the user's credentials to see, has at least answered himself.
+    /// What kinds of device it is, in its own order.
+    QStringList types() const;
+
+    /// The first of the addresses that is the sender's; empty if none is. An answer may name anyone: whoever is asked,
+    /// and gets the user's credentials to see, has at least answered himself.
     QString ownAddress() const;
 };
 

@@ -18,18 +18,18 @@ void printJson(const QJsonObject &json)
 
 QJsonObject jsonOf(const FoundCamera &found)
 {
-    return {{"found", found.sender.toString()},
+    return {{"sender", found.sender.toString()},
             {"addresses", QJsonArray::fromStringList(found.addresses())},
             {"name", found.camera.scopes.value("name")},
             {"hardware", found.camera.scopes.value("hardware")},
-            {"types", QJsonArray::fromStringList(found.camera.scopes.values("type"))}};
+            {"types", QJsonArray::fromStringList(found.types())}};
 }
 
 QString textOf(const FoundCamera &found)
 {
     return QString("%1: %2 (%3)\n")
         .arg(example::printable(found.addresses().join(", ")), example::printable(found.camera.scopes.value("name")),
-             example::printable(found.camera.scopes.values("type").join(", ")));
+             example::printable(found.types().join(", ")));
 }
 
 } // namespace
@@ -73,7 +73,7 @@ void Program::show(const QList<FoundCamera> &found)
     }
     for (const FoundCamera &camera : found) {
         if (m_options.json)
-            printJson(jsonOf(camera));
+            printJson({{"found", jsonOf(camera)}});
         else
             example::print(textOf(camera));
         if (!m_options.all)
@@ -103,6 +103,8 @@ void Program::show(const Report &report)
 {
     for (const Failure &failure : report.failures)
         complain(QString("%1: %2: %3").arg(report.address, failure.request, failure.sentence));
+    if (report.refused && m_credentials.isEmpty())
+        complain(QString("%1 wants to know who asks: give --user.").arg(report.address));
     if (m_options.json)
         printJson(jsonOf(report));
     else if (!report.isEmpty())

@@ -33,6 +33,7 @@ struct Report
     std::optional<vorn::OnvifNetworkGateway> gateway;
     std::optional<vorn::OnvifRelayOutputVector> relays;
     QList<Failure> failures;
+    bool refused = false; ///< whether a request failed for want of a valid user and password
 
     /// Whether the device has answered nothing at all.
     bool isEmpty() const

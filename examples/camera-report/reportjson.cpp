@@ -114,13 +114,8 @@ QJsonObject jsonOf(const Interface::IPv6 &ipv6)
 
 QJsonObject jsonOf(const Interface &card)
 {
-    return {{"name", card.name},
-            {"token", card.token},
-            {"enabled", card.enabled},
-            {"hwAddress", card.hwAddress},
-            {"mtu", card.mtu},
-            {"ipv4", jsonOf(card.ipv4)},
-            {"ipv6", jsonOf(card.ipv6)}};
+    return {{"name", card.name}, {"token", card.token},       {"enabled", card.enabled},  {"hwAddress", card.hwAddress},
+            {"mtu", card.mtu},   {"ipv4", jsonOf(card.ipv4)}, {"ipv6", jsonOf(card.ipv6)}};
 }
 
 QJsonObject jsonOf(const vorn::OnvifNetworkGateway &gateway)

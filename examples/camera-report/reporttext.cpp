@@ -1,6 +1,7 @@
 #include "report.h"
 #include "support/terminal.h"
 
+#include <QtCore/QSize>
 #include <QtCore/QStringList>
 
 namespace client {
@@ -12,7 +13,12 @@ using Interface = vorn::OnvifNetworkInterface;
 class Lines
 {
 public:
-    void heading(const QString &title) { m_text += '\n' + example::printable(title) + '\n'; }
+    void heading(const QString &title, bool isEmpty = false)
+    {
+        m_text += '\n' + title + '\n';
+        if (isEmpty)
+            line(1, "none");
+    }
 
     void line(int depth, const QString &content)
     {
@@ -31,6 +37,24 @@ public:
 private:
     QString m_text;
 };
+
+/// What of \a parts is not empty, with commas.
+QString joined(QStringList parts)
+{
+    parts.removeAll(QString());
+    return parts.join(", ");
+}
+
+/// A number with its unit; empty if the device gave none.
+QString amount(int number, const char *unit)
+{
+    return number > 0 ? QString("%1 %2").arg(number).arg(unit) : QString();
+}
+
+QString text(const QSize &size)
+{
+    return size.isEmpty() ? QString() : QString("%1x%2").arg(size.width()).arg(size.height());
+}
 
 /// "a (b)", or only one of them if the other adds nothing.
 QString withToken(const QString &name, const QString &token)
@@ -74,41 +98,34 @@ void write(Lines &lines, const vorn::OnvifCapabilities &capabilities)
 
 void write(Lines &lines, const vorn::OnvifScopeMap &scopes)
 {
-    lines.heading("Scopes");
+    lines.heading("Scopes", scopes.isEmpty());
     for (const QString &key : scopes.uniqueKeys()) {
         QStringList values;
         for (const vorn::OnvifScope &scope : scopes.values(key))
             values.prepend(scope.value); // the last of the reply comes first
-        lines.line(1, key + ": " + values.join(", "));
+        lines.field(1, key, joined(values));
     }
 }
 
 void write(Lines &lines, const vorn::OnvifProfile &profile)
 {
-    lines.line(1, withToken(profile.name, profile.token) + (profile.fixed ? ", fixed" : ""));
-    if (!profile.videoSource.isNull())
-        lines.line(2, "Source: " + profile.videoSource.sourceToken);
-    if (const auto &video = profile.videoEncoder; !video.isNull()) {
-        lines.line(2, QString("Video: %1, %2x%3, %4 frames/s, %5 kbit/s")
-                          .arg(video.encoding)
-                          .arg(video.resolution.width())
-                          .arg(video.resolution.height())
-                          .arg(video.frameRateLimit)
-                          .arg(video.bitrateLimit));
-    }
-    if (const auto &audio = profile.audioEncoder; !audio.isNull())
-        lines.line(2, QString("Audio: %1, %2 kbit/s, %3 kHz").arg(audio.encoding).arg(audio.bitrate).arg(audio.sampleRate));
-    if (!profile.ptz.isNull())
-        lines.line(2, "PTZ: " + withToken(profile.ptz.name, profile.ptz.token));
-    if (!profile.videoAnalytics.isNull())
-        lines.line(2, "Analytics: " + withToken(profile.videoAnalytics.name, profile.videoAnalytics.token));
-    if (!profile.metadata.isNull())
-        lines.line(2, "Metadata: " + withToken(profile.metadata.name, profile.metadata.token));
+    const auto &video = profile.videoEncoder;
+    const auto &audio = profile.audioEncoder;
+    const QString name = withToken(profile.name, profile.token);
+    lines.line(1, (name.isEmpty() ? "without a name" : name) + (profile.fixed ? ", fixed" : ""));
+    lines.field(2, "Source", profile.videoSource.sourceToken);
+    lines.field(2, "Video",
+                joined({video.encoding, text(video.resolution), amount(video.frameRateLimit, "frames/s"),
+                        amount(video.bitrateLimit, "kbit/s")}));
+    lines.field(2, "Audio", joined({audio.encoding, amount(audio.bitrate, "kbit/s"), amount(audio.sampleRate, "kHz")}));
+    lines.field(2, "PTZ", withToken(profile.ptz.name, profile.ptz.token));
+    lines.field(2, "Analytics", withToken(profile.videoAnalytics.name, profile.videoAnalytics.token));
+    lines.field(2, "Metadata", withToken(profile.metadata.name, profile.metadata.token));
 }
 
 void write(Lines &lines, const vorn::OnvifProfileVector &profiles)
 {
-    lines.heading("Profiles");
+    lines.heading("Profiles", profiles.isEmpty());
     for (const vorn::OnvifProfile &profile : profiles)
         write(lines, profile);
 }
@@ -151,15 +168,15 @@ QString text(const Interface::IPv6 &ipv6)
 
 void write(Lines &lines, const vorn::OnvifNetworkInterfaceVector &interfaces)
 {
-    lines.heading("Network interfaces");
+    lines.heading("Network interfaces", interfaces.isEmpty());
     for (const Interface &card : interfaces) {
         lines.line(1, withToken(card.name, card.token) + (card.enabled ? "" : ", off"));
         lines.field(2, "Hardware address", card.hwAddress);
-        lines.field(2, "MTU", QString::number(card.mtu));
+        lines.field(2, "MTU", amount(card.mtu, "bytes"));
         if (card.operSettings.present)
-            lines.line(2, QString("Link: %1 Mbit/s, %2 duplex")
-                              .arg(card.operSettings.speed)
-                              .arg(vPrintable(card.operSettings.duplex).toLower()));
+            lines.field(2, "Link",
+                        joined({amount(card.operSettings.speed, "Mbit/s"),
+                                vPrintable(card.operSettings.duplex).toLower() + " duplex"}));
         lines.field(2, "IPv4", text(card.ipv4));
         lines.field(2, "IPv6", text(card.ipv6));
     }
@@ -167,19 +184,19 @@ void write(Lines &lines, const vorn::OnvifNetworkInterfaceVector &interfaces)
 
 void write(Lines &lines, const vorn::OnvifNetworkGateway &gateway)
 {
-    lines.heading("Default gateway");
+    lines.heading("Default gateway", gateway.ipv4Address.isEmpty() && gateway.ipv6Address.isEmpty());
     lines.field(1, "IPv4", gateway.ipv4Address);
     lines.field(1, "IPv6", gateway.ipv6Address);
 }
 
 void write(Lines &lines, const vorn::OnvifRelayOutputVector &relays)
 {
-    lines.heading("Relay outputs");
+    lines.heading("Relay outputs", relays.isEmpty());
     for (const vorn::OnvifRelayOutput &relay : relays) {
-        const QString delay = relay.mode == vorn::OnvifRelayOutput::Monostable ? " after " + relay.delayTime : QString();
-        lines.line(1, QString("%1: %2%3, idle state %4")
-                          .arg(relay.token, vPrintable(relay.mode).toLower(), delay,
-                               vPrintable(relay.idleState).toLower()));
+        const bool fallsBack = relay.mode == vorn::OnvifRelayOutput::Monostable && !relay.delayTime.isEmpty();
+        lines.line(1, relay.token + ": "
+                          + joined({vPrintable(relay.mode).toLower() + (fallsBack ? " for " + relay.delayTime : ""),
+                                    "idle state " + vPrintable(relay.idleState).toLower()}));
     }
 }
 

@@ -5,10 +5,11 @@
 namespace client {
 namespace {
 
-const char *const messageTemplate = R"(<?xml version="1.0" encoding="UTF-8"?><s:Envelope xmlns:s="http://www.w3.org/2003/05/soap-envelope" xmlns:tds="http://www.onvif.org/ver10/device/wsdl")"
-                                    R"( xmlns:trt="http://www.onvif.org/ver10/media/wsdl")"
-                                    R"( xmlns:tt="http://www.onvif.org/ver10/schema">)"
-                                    R"(<s:Header>$@</s:Header><s:Body><$@>$@</$@></s:Body></s:Envelope>)";
+const char *const messageTemplate =
+    R"(<?xml version="1.0" encoding="UTF-8"?><s:Envelope xmlns:s="http://www.w3.org/2003/05/soap-envelope" xmlns:tds="http://www.onvif.org/ver10/device/wsdl")"
+    R"( xmlns:trt="http://www.onvif.org/ver10/media/wsdl")"
+    R"( xmlns:tt="http://www.onvif.org/ver10/schema">)"
+    R"(<s:Header>$@</s:Header><s:Body><$@>$@</$@></s:Body></s:Envelope>)";
 
 const char *prefixOf(Service service)
 {
@@ -17,7 +18,8 @@ const char *prefixOf(Service service)
 
 const char *namespaceOf(Service service)
 {
-    return service == Service::Media ? "http://www.onvif.org/ver10/media/wsdl" : "http://www.onvif.org/ver10/device/wsdl";
+    return service == Service::Media ? "http://www.onvif.org/ver10/media/wsdl"
+                                     : "http://www.onvif.org/ver10/device/wsdl";
 }
 
 } // namespace

@@ -41,7 +41,8 @@ QString remarkOn(const HttpReply &reply, vorn::OnvifFault &fault)
     if (!reason.isEmpty())
         return QString("the device says: %1").arg(reason);
     if (reply.status / 100 == 3)
-        return QString("HTTP status %1: the device sends on to another address, which is not followed").arg(reply.status);
+        return QString("HTTP status %1: the device sends on to another address, which is not followed")
+            .arg(reply.status);
     return reply.status / 100 == 2 ? QString() : QString("HTTP status %1 %2").arg(reply.status).arg(reply.statusText);
 }
 
@@ -106,8 +107,8 @@ void SoapClient::askOfKnownClock(const QUrl &url, const Request &request, const 
 {
     post(url, request, true, [=](const HttpReply &reply) {
         // The device wants Digest authentication of HTTP, or wants it anew.
-        const auto challenge = reply.status == 401 && !m_credentials.isEmpty() ? digestChallenge(reply.challenge)
-                                                                               : std::nullopt;
+        const auto challenge =
+            reply.status == 401 && !m_credentials.isEmpty() ? digestChallenge(reply.challenge) : std::nullopt;
         if (!challenge)
             return done(answerTo(request, reply));
         m_challenge = challenge;
@@ -125,7 +126,8 @@ void SoapClient::post(const QUrl &url, const Request &request, bool authenticate
 
     QNetworkRequest http(url);
     http.setHeader(QNetworkRequest::ContentTypeHeader, contentType(request));
-    http.setRawHeader("Connection", "close");          // devices close idle connections without notice
+    http.setHeader(QNetworkRequest::UserAgentHeader, "camera-report");
+    http.setRawHeader("Connection", "close");         // devices close idle connections without notice
     http.setRawHeader("Accept-Encoding", "identity"); // so that nothing swells while it is unpacked
     http.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
     http.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);

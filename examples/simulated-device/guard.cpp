@@ -72,9 +72,8 @@ bool Guard::allowsToken(const HttpRequest &request, const QDateTime &now)
     const QByteArray created = token.getText("/Created").toLatin1();
     const QDateTime time = QDateTime::fromString(QString::fromLatin1(created), Qt::ISODateWithMs);
     const QByteArray digest = QCryptographicHash::hash(nonce + created + m_password, QCryptographicHash::Sha1);
-    return token.getText("/Username").toUtf8() == m_user
-           && token.getText("/Password").toLatin1() == digest.toBase64() && time.isValid()
-           && std::abs(time.secsTo(now)) <= toleratedSeconds && isFresh(nonce);
+    return token.getText("/Username").toUtf8() == m_user && token.getText("/Password").toLatin1() == digest.toBase64()
+           && time.isValid() && std::abs(time.secsTo(now)) <= toleratedSeconds && isFresh(nonce);
 }
 
 bool Guard::allowsDigest(const HttpRequest &request)
@@ -84,8 +83,8 @@ bool Guard::allowsDigest(const HttpRequest &request)
     const QByteArray clientNonce = parameter(value, "cnonce");
     const QByteArray expected = md5(md5(m_user + ':' + realm + ':' + m_password) + ':' + m_nonce + ':' + count + ':'
                                     + clientNonce + ":auth:" + md5("POST:" + request.target));
-    return value.startsWith("Digest ") && parameter(value, "username") == m_user
-           && parameter(value, "nonce") == m_nonce && parameter(value, "response") == expected && isFresh(count);
+    return value.startsWith("Digest ") && parameter(value, "username") == m_user && parameter(value, "nonce") == m_nonce
+           && parameter(value, "response") == expected && isFresh(count);
 }
 
 bool Guard::isFresh(const QByteArray &proof)

@@ -30,9 +30,9 @@ std::optional<HttpRequest> httpRequestIn(const QByteArray &bytes)
 
 QByteArray httpReply(int status, const QByteArray &type, const QByteArray &body, const QByteArray &headerLines)
 {
-    return "HTTP/1.1 " + QByteArray::number(status) + (status == 200 ? " OK" : " Simulated") + "\r\nContent-Type: "
-           + type + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\nConnection: close\r\n" + headerLines
-           + "\r\n" + body;
+    return "HTTP/1.1 " + QByteArray::number(status) + (status == 200 ? " OK" : " Simulated")
+           + "\r\nContent-Type: " + type + "\r\nContent-Length: " + QByteArray::number(body.size())
+           + "\r\nConnection: close\r\n" + headerLines + "\r\n" + body;
 }
 
 } // namespace simulator

@@ -3,7 +3,6 @@
 #include "device.h"
 #include "options.h"
 #include "proberesponder.h"
-
 #include "support/stopsignals.h"
 #include "support/terminal.h"
 
@@ -22,7 +21,7 @@ enum ExitCode : int { WasStopped = 0, CannotRun = 2 };
 
 int fail(const QString &sentence)
 {
-    example::note("simulated-device: " + sentence + " Try --help.");
+    example::note("simulated-device: " + example::printable(sentence));
     return CannotRun;
 }
 
@@ -57,7 +56,7 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     const simulator::CommandLine line = simulator::readCommandLine(QCoreApplication::arguments());
     if (!line.complaint.isEmpty())
-        return fail(line.complaint);
+        return fail(line.complaint + " Try --help.");
     if (!line.options) {
         example::print(line.answer);
         return WasStopped;

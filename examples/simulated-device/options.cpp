@@ -36,11 +36,13 @@ struct Known
     QCommandLineOption port{"port", "The port of the first device, and so on. Without it: any.", "NUMBER", "0"};
     QCommandLineOption probePort{"probe-port", "A port for probes that come without multicast.", "NUMBER", "0"};
     QCommandLineOption devices{"devices", "How many devices, from 1 to 1000.", "NUMBER", "1"};
+    QCommandLineOption keepAddresses{"keep-addresses", "Leaves the addresses in replies as they are."};
     QCommandLineOption record{"record", "Keeps each request in a file in FOLDER.", "FOLDER"};
 
     QList<QCommandLineOption> inOrder() const
     {
-        return {help, answer, trouble, auth, user, password, clockAhead, listen, port, probePort, devices, record};
+        return {help,   answer, trouble,   auth,    user,          password, clockAhead,
+                listen, port,   probePort, devices, keepAddresses, record};
     }
 };
 
@@ -104,6 +106,7 @@ bool readNumber(const QCommandLineParser &parser, const QCommandLineOption &opti
 QString readPlace(const QCommandLineParser &parser, const Known &known, Options &options)
 {
     options.listen = QHostAddress(parser.value(known.listen));
+    options.keepAddresses = parser.isSet(known.keepAddresses);
     options.recordFolder = parser.value(known.record);
     if (options.listen.protocol() != QHostAddress::IPv4Protocol || options.listen == QHostAddress::AnyIPv4)
         return "--listen wants an IPv4 address of this machine.";

@@ -23,7 +23,7 @@ enum class Authentication {
 /// What the user wants to be simulated.
 struct Options
 {
-    QDir folder;                    ///< ACTION.xml is the reply to ACTION
+    QDir folder;                     ///< ACTION.xml is the reply to ACTION
     QHash<QString, QString> answers; ///< files for some actions instead
     Troubles troubles;
     Authentication authentication = Authentication::None;
@@ -34,7 +34,8 @@ struct Options
     quint16 port = 0;      ///< of the first device; 0: the system chooses for each
     quint16 probePort = 0; ///< for probes that are sent here alone; 0: the system chooses
     int devices = 1;
-    QString recordFolder; ///< where each request is kept; empty: nowhere
+    bool keepAddresses = false; ///< whether the addresses in replies stay as they are
+    QString recordFolder;       ///< where each request is kept; empty: nowhere
 };
 
 /// What came of reading the command line: one of the three.

@@ -40,9 +40,11 @@ QByteArray dateAndTime(const QDateTime &now)
                       + "</tt:Date></tt:UTCDateTime></tds:SystemDateAndTime></tds:GetSystemDateAndTimeResponse>");
 }
 
-/// Makes each HTTP address in the elements XAddr and XAddrs one of the device at \a address.
-QByteArray withOwnAddresses(const QByteArray &reply, const QByteArray &address)
+/// Makes each HTTP address in the elements XAddr and XAddrs one of the device at \a address, unless the user objects.
+QByteArray withOwnAddresses(const QByteArray &reply, const Options &options, const QByteArray &address)
 {
+    if (options.keepAddresses)
+        return reply;
     static const QRegularExpression xAddrs("(<(?:[\\w.-]+:)?XAddrs?>)([^<]*)");
     static const QRegularExpression host("(\\bhttp://)[^/\\s]*");
     // Latin-1 has a character for each byte, so that the bytes stay what they are whatever they mean.
@@ -82,7 +84,7 @@ Reply replyTo(const QString &action, const Options &options, const QByteArray &a
 {
     const QByteArray given = givenReply(action, options);
     if (!given.isEmpty())
-        return {200, withOwnAddresses(given, address)};
+        return {200, withOwnAddresses(given, options, address)};
     if (action == "GetSystemDateAndTime")
         return {200, dateAndTime(now)};
     if (action == "SetNetworkInterfaces")
@@ -106,7 +108,7 @@ QByteArray probeMatch(const Options &options, const QByteArray &address, const Q
     // Each device has an identity of its own, which is the same for each probe.
     const QUuid identity = QUuid::createUuidV5(QUuid(), address);
     match = withText(match, "Address", "urn:uuid:" + identity.toByteArray(QUuid::WithoutBraces));
-    return withOwnAddresses(withText(match, "RelatesTo", messageId), address);
+    return withOwnAddresses(withText(match, "RelatesTo", messageId), options, address);
 }
 
 Reply notAuthorized()

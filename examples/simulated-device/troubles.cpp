@@ -4,12 +4,18 @@ namespace simulator {
 namespace {
 
 const std::pair<const char *, Trouble> names[] = {
-    {"silent", Trouble::Silent},           {"slow", Trouble::Slow},
-    {"dropped", Trouble::Dropped},         {"truncated", Trouble::Truncated},
-    {"endless", Trouble::Endless},         {"garbage", Trouble::Garbage},
-    {"empty", Trouble::Empty},             {"json", Trouble::Json},
-    {"redirect", Trouble::Redirect},       {"not-found", Trouble::NotFound},
-    {"unavailable", Trouble::Unavailable}, {"not-supported", Trouble::NotSupported},
+    {"silent", Trouble::Silent},
+    {"slow", Trouble::Slow},
+    {"dropped", Trouble::Dropped},
+    {"truncated", Trouble::Truncated},
+    {"endless", Trouble::Endless},
+    {"garbage", Trouble::Garbage},
+    {"empty", Trouble::Empty},
+    {"json", Trouble::Json},
+    {"redirect", Trouble::Redirect},
+    {"not-found", Trouble::NotFound},
+    {"unavailable", Trouble::Unavailable},
+    {"not-supported", Trouble::NotSupported},
 };
 
 } // namespace

@@ -3,7 +3,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-
 #include <fcntl.h>
 #include <unistd.h>
 
