@@ -47,7 +47,7 @@ std::optional<DigestChallenge> digestChallenge(const QByteArray &header)
     static const QRegularExpression pattern("\\bDigest\\s((?:" + QString(parameterPattern) + ")+)",
                                             QRegularExpression::CaseInsensitiveOption);
     for (const QRegularExpressionMatch &match : pattern.globalMatch(QString::fromLatin1(header))) {
-        if (const auto challenge = challengeOf(parametersOf(match.captured(1))))
+        if (auto challenge = challengeOf(parametersOf(match.captured(1))))
             return challenge;
     }
     return std::nullopt;

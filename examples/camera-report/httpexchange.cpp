@@ -1,7 +1,5 @@
 #include "httpexchange.h"
 
-#include <QtCore/QTimer>
-
 namespace client {
 
 HttpExchange::HttpExchange(QNetworkReply *reply, std::chrono::milliseconds timeout, Done done, QObject *owner)
@@ -14,9 +12,11 @@ HttpExchange::HttpExchange(QNetworkReply *reply, std::chrono::milliseconds timeo
     connect(reply, &QNetworkReply::readyRead, this, [this] { collect(); });
     connect(reply, &QNetworkReply::finished, this, [this] { finish(); });
     // For the whole exchange: a device that sends a byte now and then must not hold it up.
-    QTimer::singleShot(timeout, this, [this, timeout] {
+    connect(&m_limit, &QTimer::timeout, this, [this, timeout] {
         stop(QString("no complete reply within %1 s").arg(static_cast<double>(timeout.count()) / 1000));
     });
+    m_limit.setSingleShot(true);
+    m_limit.start(timeout);
 }
 
 void HttpExchange::collect()

@@ -5,6 +5,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QTimer>
 #include <QtNetwork/QNetworkReply>
 
 #include <chrono>
@@ -44,6 +45,7 @@ private:
     QNetworkReply *m_reply;
     Done m_done;
     HttpReply m_result;
+    QTimer m_limit;
 };
 
 } // namespace client

@@ -8,7 +8,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSocketNotifier>
-#include <QtCore/QTimer>
 
 namespace {
 
@@ -51,7 +50,8 @@ int main(int argc, char **argv)
     QSocketNotifier stopped(stopDescriptor, QSocketNotifier::Read);
     QObject::connect(&stopped, &QSocketNotifier::activated, [] { QCoreApplication::exit(client::Stopped); });
     client::Program program(*line.options, credentials);
-    QTimer::singleShot(0, &program, [&program] { program.start(); });
+    QMetaObject::invokeMethod(
+        &program, [&program] { program.start(); }, Qt::QueuedConnection);
     const int exitCode = QCoreApplication::exec();
     if (!example::isOutputWritten())
         return fail("The output cannot be written.");

@@ -151,7 +151,7 @@ QString readRest(const QCommandLineParser &parser, Options &options)
 QString readOptions(const QCommandLineParser &parser, Options &options)
 {
     for (const auto read : {readRest, readTarget, readProbe, readChange}) {
-        const QString complaint = read(parser, options);
+        QString complaint = read(parser, options);
         if (!complaint.isEmpty())
             return complaint;
     }

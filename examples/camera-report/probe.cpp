@@ -2,7 +2,6 @@
 
 #include <vorn/onvif/placeholderstring.h>
 
-#include <QtCore/QTimer>
 #include <QtCore/QUrl>
 #include <QtCore/QUuid>
 #include <QtCore/QVariant>
@@ -81,16 +80,19 @@ QString Probe::start()
         m_socket.setMulticastInterface(m_target.interface);
     connect(&m_socket, &QUdpSocket::readyRead, this, [this] { receive(); });
 
-    const QString complaint = send();
+    QString complaint = send();
     if (!complaint.isEmpty())
         return complaint;
     // Datagrams get lost, so it is asked again; who has answered is known by then.
-    for (const auto delay : {m_duration / 4, m_duration / 2})
-        QTimer::singleShot(delay, this, [this] { send(); });
-    QTimer::singleShot(m_duration, this, [this] {
+    connect(&m_again, &QTimer::timeout, this, [this] { send(); });
+    m_again.start(m_duration / 4);
+    connect(&m_end, &QTimer::timeout, this, [this] {
+        m_again.stop();
         receive();
         m_done(m_found);
     });
+    m_end.setSingleShot(true);
+    m_end.start(m_duration);
     return {};
 }
 

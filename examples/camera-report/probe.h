@@ -6,6 +6,8 @@
 #include <QtCore/QObject>
 #include <QtCore/QSet>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QTimer>
 #include <QtNetwork/QHostAddress>
 #include <QtNetwork/QNetworkInterface>
 #include <QtNetwork/QUdpSocket>
@@ -67,6 +69,8 @@ private:
     QByteArray m_message;
     QList<FoundCamera> m_found;
     QSet<QString> m_known;
+    QTimer m_again; ///< when the probe is sent once more
+    QTimer m_end;
 };
 
 } // namespace client

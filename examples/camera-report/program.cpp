@@ -6,7 +6,6 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QTimer>
 
 namespace client {
 namespace {
@@ -110,7 +109,8 @@ void Program::show(const Report &report)
     else if (!report.isEmpty())
         example::print((m_options.address.isEmpty() ? "\n" : "") + textOf(report));
     // The walk that calls this is gone only when it has returned.
-    QTimer::singleShot(0, this, [this] { reportOnNext(); });
+    QMetaObject::invokeMethod(
+        this, [this] { reportOnNext(); }, Qt::QueuedConnection);
 }
 
 void Program::changeInterface()

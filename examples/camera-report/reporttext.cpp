@@ -22,7 +22,7 @@ public:
 
     void line(int depth, const QString &content)
     {
-        m_text += QString(2 * depth, ' ') + example::printable(content) + '\n';
+        m_text += QString(qsizetype(2) * depth, ' ') + example::printable(content) + '\n';
     }
 
     /// A line for a value, unless the device gave none.
@@ -132,7 +132,7 @@ void write(Lines &lines, const vorn::OnvifProfileVector &profiles)
 
 QString text(const Interface::PrefixedAddress &address)
 {
-    return QString("%1/%2").arg(address.address).arg(address.prefixLength);
+    return address.address + '/' + QString::number(address.prefixLength);
 }
 
 QStringList texts(const QList<Interface::PrefixedAddress> &addresses, const QString &origin)

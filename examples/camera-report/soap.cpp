@@ -46,7 +46,8 @@ QUrl deviceServiceUrl(const QString &address)
 {
     const QUrl url("http://" + address + "/onvif/device_service", QUrl::StrictMode);
     const bool nothingElse = url.path() == "/onvif/device_service" && url.userInfo().isEmpty();
-    return url.isValid() && !url.host().isEmpty() && nothingElse ? url : QUrl();
+    const bool portIsMissing = address.endsWith(':');
+    return url.isValid() && !url.host().isEmpty() && nothingElse && !portIsMissing ? url : QUrl();
 }
 
 QUrl urlOnSameHost(const QUrl &asked, const QString &xAddr)

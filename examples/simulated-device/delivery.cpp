@@ -32,14 +32,15 @@ void deliverSlowly(QTcpSocket *socket, const QByteArray &bytes)
     timer->start(pauseBetweenBytes);
 }
 
-void deliverForEver(QTcpSocket *socket)
+/// Writes \a start, and then blanks without end.
+void deliverForEver(QTcpSocket *socket, const QByteArray &start)
 {
     const auto writeMore = [socket] { socket->write(QByteArray(qsizetype(64) * 1024, ' ')); };
     QObject::connect(socket, &QTcpSocket::bytesWritten, socket, [socket, writeMore] {
         if (socket->bytesToWrite() == 0)
             writeMore();
     });
-    socket->write(QByteArray("HTTP/1.1 200 OK\r\nContent-Type: ") + soapType + "\r\nConnection: close\r\n\r\n");
+    socket->write(start);
     writeMore();
 }
 
@@ -66,7 +67,9 @@ void deliver(QTcpSocket *socket, const Reply &reply, Trouble trouble)
     case Trouble::Truncated:
         return deliver(socket, whole.left(whole.size() - reply.body.size() / 2));
     case Trouble::Endless:
-        return deliverForEver(socket);
+        return deliverForEver(socket, "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n");
+    case Trouble::EndlessHead:
+        return deliverForEver(socket, "HTTP/1.1 200 OK\r\nServer: ");
     case Trouble::Garbage:
         return deliver(socket, "SSH-2.0-Simulated\r\n");
     case Trouble::Empty:

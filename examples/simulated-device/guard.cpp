@@ -56,7 +56,7 @@ bool Guard::allows(const HttpRequest &request, const QDateTime &now)
 
 QByteArray Guard::challenge() const
 {
-    const QByteArray basic = "WWW-Authenticate: Basic realm=\"" + realm + "\"\r\n";
+    QByteArray basic = "WWW-Authenticate: Basic realm=\"" + realm + "\"\r\n";
     if (m_kind == Authentication::Basic)
         return basic;
     if (m_kind != Authentication::Http)

@@ -125,7 +125,7 @@ QString readPlace(const QCommandLineParser &parser, const Known &known, Options 
 QString readOptions(const QCommandLineParser &parser, const Known &known, Options &options)
 {
     for (const auto read : {readReplies, readAuthentication, readPlace}) {
-        const QString complaint = read(parser, known, options);
+        QString complaint = read(parser, known, options);
         if (!complaint.isEmpty())
             return complaint;
     }

@@ -4,17 +4,18 @@
 
 #include <vorn/util/xmlresponse.h>
 
-#include <QtCore/QTimer>
 #include <QtNetwork/QNetworkDatagram>
 #include <QtNetwork/QNetworkInterface>
+
+#include <chrono>
 
 namespace simulator {
 namespace {
 
 constexpr quint16 discoveryPort = 3702;
 
-/// WS-Discovery wants devices to answer at any time within this one, so that not all answers come at once.
-constexpr int longestDelay = 400;
+/// Not all answers are to come at once: WS-Discovery has devices wait for a random time.
+constexpr std::chrono::milliseconds pauseBetweenAnswers(1);
 
 QHostAddress discoveryGroup()
 {
@@ -40,6 +41,7 @@ ProbeResponder::ProbeResponder(const Options &options, const QList<QByteArray> &
 {
     for (QUdpSocket *socket : {&m_socket, &m_groupSocket})
         connect(socket, &QUdpSocket::readyRead, this, [this, socket] { receive(*socket); });
+    connect(&m_pause, &QTimer::timeout, this, [this] { sendNextAnswer(); });
 }
 
 bool ProbeResponder::start()
@@ -68,22 +70,27 @@ void ProbeResponder::receive(QUdpSocket &socket)
         const QNetworkDatagram datagram = socket.receiveDatagram();
         // Another program may have joined the group at another interface; its probes come here, too.
         if (!m_options.listen.isLoopback() || datagram.senderAddress().isLoopback())
-            answer(datagram.data(), datagram.senderAddress(), static_cast<quint16>(datagram.senderPort()));
+            prepareAnswers(datagram.data(), datagram.senderAddress(), static_cast<quint16>(datagram.senderPort()));
     }
 }
 
-void ProbeResponder::answer(const QByteArray &probe, const QHostAddress &sender, quint16 port)
+void ProbeResponder::prepareAnswers(const QByteArray &probe, const QHostAddress &sender, quint16 port)
 {
     vorn::XmlResponse message(probe, "/Envelope");
     if (message.getText("/Body/Probe").isNull())
         return;
     const QByteArray messageId = message.getText("/Header/MessageID").toHtmlEscaped().toLatin1();
-    for (qsizetype index = 0; index < m_deviceAddresses.size(); ++index) {
-        const int delay = static_cast<int>(longestDelay * index / m_deviceAddresses.size());
-        QTimer::singleShot(delay, this, [=] {
-            m_socket.writeDatagram(probeMatch(m_options, m_deviceAddresses[index], messageId), sender, port);
-        });
-    }
+    for (const QByteArray &deviceAddress : m_deviceAddresses)
+        m_answers.append({deviceAddress, messageId, sender, port});
+    m_pause.start(pauseBetweenAnswers);
+}
+
+void ProbeResponder::sendNextAnswer()
+{
+    if (m_answers.isEmpty())
+        return m_pause.stop();
+    const Answer answer = m_answers.takeFirst();
+    m_socket.writeDatagram(probeMatch(m_options, answer.deviceAddress, answer.messageId), answer.receiver, answer.port);
 }
 
 } // namespace simulator

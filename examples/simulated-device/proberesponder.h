@@ -5,6 +5,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QTimer>
 #include <QtNetwork/QHostAddress>
 #include <QtNetwork/QUdpSocket>
 
@@ -26,15 +27,27 @@ public:
     QByteArray address() const;
 
 private:
+    /// What one device has to answer, and to whom.
+    struct Answer
+    {
+        QByteArray deviceAddress;
+        QByteArray messageId;
+        QHostAddress receiver;
+        quint16 port = 0;
+    };
+
     bool joinGroup();
     void receive(QUdpSocket &socket);
-    void answer(const QByteArray &probe, const QHostAddress &sender, quint16 port);
+    void prepareAnswers(const QByteArray &probe, const QHostAddress &sender, quint16 port);
+    void sendNextAnswer();
 
     Options m_options;
     QList<QByteArray> m_deviceAddresses;
     QUdpSocket m_socket;
     QUdpSocket m_groupSocket;
     bool m_takesMulticast = false;
+    QList<Answer> m_answers; ///< that are still to be sent
+    QTimer m_pause;          ///< between two answers
 };
 
 } // namespace simulator

@@ -9,6 +9,7 @@ const std::pair<const char *, Trouble> names[] = {
     {"dropped", Trouble::Dropped},
     {"truncated", Trouble::Truncated},
     {"endless", Trouble::Endless},
+    {"endless-head", Trouble::EndlessHead},
     {"garbage", Trouble::Garbage},
     {"empty", Trouble::Empty},
     {"json", Trouble::Json},

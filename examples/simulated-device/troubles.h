@@ -14,6 +14,7 @@ enum class Trouble {
     Dropped,      ///< the connection ends without a byte
     Truncated,    ///< the connection ends in the middle of the reply
     Endless,      ///< the reply never ends
+    EndlessHead,  ///< a header line of the reply never ends
     Garbage,      ///< the answer is not HTTP
     Empty,        ///< the reply has no body
     Json,         ///< the reply is JSON

@@ -9,15 +9,8 @@ namespace {
 
 bool isHarmless(char32_t character)
 {
-    switch (QChar::category(character)) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return false;
-    default:
-        return true;
-    }
+    const bool breaksTheLine = character == U'\u2028' || character == U'\u2029';
+    return QChar::isPrint(character) && !breaksTheLine;
 }
 
 void write(std::FILE *stream, const QString &text)

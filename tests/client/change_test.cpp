@@ -10,6 +10,7 @@
 
 namespace {
 
+using test::ReplyFolder;
 using test::report;
 using test::Result;
 using test::samples;
@@ -77,12 +78,9 @@ TEST(Change, needsAnInterfaceThatIsThere)
 
 TEST(Change, escapesWhatTheDeviceCallsItsInterface)
 {
-    QTemporaryDir folder;
-    QFile reply(folder.filePath("GetNetworkInterfaces.xml"));
-    ASSERT_TRUE(reply.open(QIODevice::WriteOnly));
-    reply.write("<Envelope><Body><GetNetworkInterfacesResponse><NetworkInterfaces token=\"&lt;&amp;\">"
-                "<Info><Name>eth0</Name></Info></NetworkInterfaces></GetNetworkInterfacesResponse></Body></Envelope>");
-    reply.close();
+    const ReplyFolder folder(
+        "GetNetworkInterfaces",
+        "<NetworkInterfaces token=\"&lt;&amp;\"><Info><Name>eth0</Name></Info></NetworkInterfaces>");
     const SimulatedDevice device({folder.path()});
     const Result result = report(device, {"--address", "{address}", "--timeout", "60", "--set-dhcp", "eth0"});
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();

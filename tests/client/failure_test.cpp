@@ -46,6 +46,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"dropped", "Empty reply from Camera (the connection ended before a reply over HTTP came)"},
         Case{"truncated", "Transferred a partial file. (the connection ended in the middle of the reply)"},
         Case{"endless", "Failure when receiving data from the peer. (the reply is longer than 4 MiB)"},
+        Case{"endless-head", "Failure when receiving data from the peer. (no complete reply within 0.5 s)", "0.5"},
         Case{"garbage", "Empty reply from Camera (the connection ended before a reply over HTTP came)"},
         Case{"empty", "Empty reply from Camera"}, Case{"json", "The device gave no answer that can be read."},
         Case{"redirect", "Unknown HTTP Error. (HTTP status 302: the device sends on to another address, which is not "

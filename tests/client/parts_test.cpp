@@ -85,7 +85,7 @@ TEST(Address, isAHostWithAnOptionalPort)
 {
     EXPECT_EQ(client::deviceServiceUrl("192.0.2.7"), QUrl("http://192.0.2.7/onvif/device_service"));
     EXPECT_EQ(client::deviceServiceUrl("[2001:db8::1]:8080"), QUrl("http://[2001:db8::1]:8080/onvif/device_service"));
-    for (const char *text : {"", ":80", "a b", "a/b", "a?b", "a#b", "u@a", "http://a", "a:99999"})
+    for (const char *text : {"", ":80", "a:", "a b", "a/b", "a?b", "a#b", "u@a", "http://a", "a:99999"})
         EXPECT_FALSE(client::deviceServiceUrl(text).isValid()) << text;
 }
 

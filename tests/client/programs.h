@@ -4,12 +4,14 @@
 
 #include "support/printing.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <QtCore/QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace test {
@@ -21,6 +23,29 @@ inline QString samples(const QString &name)
 {
     return QStringLiteral(SAMPLES_FOLDER "/") + name;
 }
+
+/// A folder with one reply, for a device to answer from.
+class ReplyFolder
+{
+public:
+    /// \a content stands in the response to \a action.
+    ReplyFolder(const QString &action, const QByteArray &content)
+        : m_file(m_folder.filePath(action + ".xml"))
+    {
+        const QByteArray element = action.toUtf8() + "Response>";
+        EXPECT_TRUE(m_file.open(QIODevice::WriteOnly));
+        m_file.write("<Envelope><Body><" + element + content + "</" + element + "</Body></Envelope>");
+        m_file.close();
+    }
+
+    QString path() const { return m_folder.path(); }
+
+    QString fileName() const { return m_file.fileName(); }
+
+private:
+    QTemporaryDir m_folder;
+    QFile m_file;
+};
 
 /// A device that is simulated for as long as this object lives. In the arguments of camera-report, its addresses are
 /// filled in: {address} and {probe}.

@@ -3,10 +3,9 @@
 #include "client/programs.h"
 #include "samples/samples.h"
 
-#include <QtCore/QTemporaryDir>
-
 namespace {
 
+using test::ReplyFolder;
 using test::report;
 using test::Result;
 using test::samples;
@@ -102,15 +101,10 @@ TEST(Report, goesOnAfterAFaultOfOneRequest)
 
 TEST(Report, escapesWhatADeviceSays)
 {
-    QTemporaryDir folder;
-    QFile reply(folder.filePath("GetDeviceInformation.xml"));
-    ASSERT_TRUE(reply.open(QIODevice::WriteOnly));
-    reply.write("<Envelope><Body><GetDeviceInformationResponse><Model>a\x1b[2J\xe2\x80\xae</Model>"
-                "</GetDeviceInformationResponse></Body></Envelope>");
-    reply.close();
+    const ReplyFolder folder("GetDeviceInformation", "<Model>a\x1b[2J\xe2\x80\xae\xe2\x80\xa8</Model>");
     const SimulatedDevice device({folder.path()});
     const Result result = report(device, {"--address", "{address}", "--timeout", "60"});
-    EXPECT_TRUE(result.output.contains("Model: a\\u001b[2J\\u202e\n")) << result.output.toStdString();
+    EXPECT_TRUE(result.output.contains("Model: a\\u001b[2J\\u202e\\u2028\n")) << result.output.toStdString();
 }
 
 TEST(Report, asksNoHostButTheOneThatItWasGiven)
@@ -131,12 +125,8 @@ TEST(Report, asksNoHostButTheOneThatItWasGiven)
 
 TEST(Report, leavesTheProfilesOutWhereThereIsNoMediaService)
 {
-    QTemporaryDir folder;
-    QFile reply(folder.filePath("GetCapabilities.xml"));
-    ASSERT_TRUE(reply.open(QIODevice::WriteOnly));
-    reply.write("<Envelope><Body><GetCapabilitiesResponse><Capabilities/></GetCapabilitiesResponse></Body></Envelope>");
-    reply.close();
-    const SimulatedDevice device({samples("short-prefixes"), "--answer", "GetCapabilities=" + reply.fileName()});
+    const ReplyFolder folder("GetCapabilities", "<Capabilities/>");
+    const SimulatedDevice device({samples("short-prefixes"), "--answer", "GetCapabilities=" + folder.fileName()});
     const Result result = report(device, {"--address", "{address}", "--timeout", "60"});
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     EXPECT_FALSE(result.output.contains("Profiles\n"));
