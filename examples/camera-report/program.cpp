@@ -37,6 +37,8 @@ Program::Program(const Options &options, const Credentials &credentials)
     : m_options(options)
     , m_credentials(credentials)
 {
+    m_next.setSingleShot(true);
+    connect(&m_next, &QTimer::timeout, this, [this] { reportOnNext(); });
 }
 
 void Program::start()
@@ -109,8 +111,7 @@ void Program::show(const Report &report)
     else if (!report.isEmpty())
         example::print((m_options.address.isEmpty() ? "\n" : "") + textOf(report));
     // The walk that calls this is gone only when it has returned.
-    QMetaObject::invokeMethod(
-        this, [this] { reportOnNext(); }, Qt::QueuedConnection);
+    m_next.start();
 }
 
 void Program::changeInterface()

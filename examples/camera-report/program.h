@@ -8,6 +8,8 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QStringList>
+#include <QtCore/QTimer>
 
 #include <memory>
 
@@ -34,7 +36,8 @@ private:
     Options m_options;
     Credentials m_credentials;
     int m_exitCode = Complete;
-    QList<QString> m_addresses; ///< of the cameras that are still to be reported on
+    QStringList m_addresses; ///< of the cameras that are still to be reported on
+    QTimer m_next;           ///< for the next of them
     std::unique_ptr<Probe> m_probe;
     std::unique_ptr<CameraWalk> m_walk;
     std::unique_ptr<InterfaceChanger> m_changer;
