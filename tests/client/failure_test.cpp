@@ -7,6 +7,7 @@
 
 namespace {
 
+using test::ReplyFolder;
 using test::report;
 using test::Result;
 using test::samples;
@@ -63,6 +64,18 @@ TEST(Failure, ofTheTransportEndsTheReportButKeepsWhatWasAnswered)
                                              "connection ended in the middle of the reply)\n"));
     EXPECT_TRUE(result.output.contains("Model: Bullet 4K\n"));
     EXPECT_FALSE(result.output.contains("Profiles\n"));
+}
+
+TEST(Failure, isAReplyOfMoreThanFourMebibytes)
+{
+    const auto errorsFor = [](int mebibytes) {
+        const ReplyFolder folder("GetDeviceInformation", QByteArray(qsizetype(mebibytes) * 1024 * 1024, ' '));
+        const SimulatedDevice device(
+            {samples("short-prefixes"), "--answer", "GetDeviceInformation=" + folder.fileName()});
+        return report(device, {"--address", "{address}", "--timeout", "60"}).errors;
+    };
+    EXPECT_EQ(errorsFor(3), "");
+    EXPECT_TRUE(errorsFor(5).contains("(the reply is longer than 4 MiB)\n"));
 }
 
 TEST(Failure, ofAHostThatIsNotKnown)
