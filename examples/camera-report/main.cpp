@@ -1,0 +1,59 @@
+// camera-report: the library at work against a device, over real sockets.
+
+#include "options.h"
+#include "password.h"
+#include "program.h"
+#include "support/stopsignals.h"
+#include "support/terminal.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QSocketNotifier>
+
+namespace {
+
+int fail(const QString &sentence)
+{
+    example::note("camera-report: " + example::printable(sentence));
+    return client::CannotRun;
+}
+
+client::PasswordInput passwordFor(const client::Options &options, int stopDescriptor)
+{
+    return options.passwordFile.isEmpty() ? client::passwordFromTerminal(options.user, stopDescriptor)
+                                          : client::passwordFromFile(options.passwordFile);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const client::CommandLine line = client::readCommandLine(QCoreApplication::arguments());
+    if (!line.complaint.isEmpty())
+        return fail(line.complaint + " Try --help.");
+    if (!line.options) {
+        example::print(line.answer);
+        return client::Complete;
+    }
+
+    const int stopDescriptor = example::catchStopSignals();
+    client::Credentials credentials{line.options->user, {}};
+    if (!credentials.isEmpty()) {
+        const client::PasswordInput input = passwordFor(*line.options, stopDescriptor);
+        if (input.stopped)
+            return client::Stopped;
+        if (!input.password)
+            return fail(input.complaint);
+        credentials.password = *input.password;
+    }
+
+    QSocketNotifier stopped(stopDescriptor, QSocketNotifier::Read);
+    QObject::connect(&stopped, &QSocketNotifier::activated, [] { QCoreApplication::exit(client::Stopped); });
+    client::Program program(*line.options, credentials);
+    QMetaObject::invokeMethod(
+        &program, [&program] { program.start(); }, Qt::QueuedConnection);
+    const int exitCode = QCoreApplication::exec();
+    if (!example::isOutputWritten())
+        return fail("The output cannot be written.");
+    return exitCode;
+}

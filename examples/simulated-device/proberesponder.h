@@ -1,0 +1,53 @@
+#pragma once
+
+#include "options.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QTimer>
+#include <QtNetwork/QHostAddress>
+#include <QtNetwork/QUdpSocket>
+
+namespace simulator {
+
+/// Answers the probes of WS-Discovery for all devices.
+class ProbeResponder : public QObject
+{
+public:
+    /// \a deviceAddresses are hosts with ports.
+    ProbeResponder(const Options &options, const QList<QByteArray> &deviceAddresses);
+
+    /// Listens for probes. False if that is not possible; multicast may fail alone.
+    bool start();
+
+    bool takesMulticast() const { return m_takesMulticast; }
+
+    /// Where probes are taken without multicast: a host and a port.
+    QByteArray address() const;
+
+private:
+    /// What one device has to answer, and to whom.
+    struct Answer
+    {
+        QByteArray deviceAddress;
+        QByteArray messageId;
+        QHostAddress receiver;
+        quint16 port = 0;
+    };
+
+    bool joinGroup();
+    void receive(QUdpSocket &socket);
+    void prepareAnswers(const QByteArray &probe, const QHostAddress &sender, quint16 port);
+    void sendNextAnswer();
+
+    Options m_options;
+    QList<QByteArray> m_deviceAddresses;
+    QUdpSocket m_socket;
+    QUdpSocket m_groupSocket;
+    bool m_takesMulticast = false;
+    QList<Answer> m_answers; ///< that are still to be sent
+    QTimer m_pause;          ///< between two answers
+};
+
+} // namespace simulator

@@ -1,0 +1,131 @@
+#pragma once
+
+// Runs camera-report and simulated-device, which talk to each other over sockets on loopback.
+
+#include "support/printing.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace test {
+
+/// How long a program may take for what takes it a moment, on a machine that has much else to do.
+constexpr int patience = 120000;
+
+inline QString samples(const QString &name)
+{
+    return QStringLiteral(SAMPLES_FOLDER "/") + name;
+}
+
+/// A folder with one reply, for a device to answer from.
+class ReplyFolder
+{
+public:
+    /// \a content stands in the response to \a action.
+    ReplyFolder(const QString &action, const QByteArray &content)
+        : m_file(m_folder.filePath(action + ".xml"))
+    {
+        const QByteArray element = action.toUtf8() + "Response>";
+        EXPECT_TRUE(m_file.open(QIODevice::WriteOnly));
+        m_file.write("<Envelope><Body><" + element + content + "</" + element + "</Body></Envelope>");
+        m_file.close();
+    }
+
+    QString path() const { return m_folder.path(); }
+
+    QString fileName() const { return m_file.fileName(); }
+
+private:
+    QTemporaryDir m_folder;
+    QFile m_file;
+};
+
+/// A device that is simulated for as long as this object lives. In the arguments of camera-report, its addresses are
+/// filled in: {address} and {probe}.
+class SimulatedDevice
+{
+public:
+    explicit SimulatedDevice(const QStringList &arguments)
+    {
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(QStringLiteral(DEVICE_PROGRAM), arguments);
+        QByteArray line;
+        while (!line.endsWith('\n') && m_process.waitForReadyRead(patience))
+            line += m_process.readAllStandardOutput();
+        const QJsonObject ready = QJsonDocument::fromJson(line).object();
+        for (const QJsonValue &device : ready["devices"].toArray())
+            m_addresses += device.toString();
+        m_probe = ready["probe"].toString();
+        m_takesMulticast = ready["multicast"].toBool();
+        EXPECT_FALSE(m_addresses.isEmpty()) << line.toStdString();
+    }
+
+    ~SimulatedDevice()
+    {
+        m_process.terminate();
+        EXPECT_TRUE(m_process.waitForFinished(patience));
+        EXPECT_EQ(m_process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(m_process.exitCode(), 0);
+    }
+
+    SimulatedDevice(const SimulatedDevice &) = delete;
+    SimulatedDevice &operator=(const SimulatedDevice &) = delete;
+
+    QString address() const { return m_addresses.value(0); }
+
+    QStringList addresses() const { return m_addresses; }
+
+    bool takesMulticast() const { return m_takesMulticast; }
+
+    QString filledIn(const QString &text) const
+    {
+        return QString(text).replace("{address}", address()).replace("{probe}", m_probe);
+    }
+
+private:
+    QProcess m_process;
+    QStringList m_addresses;
+    QString m_probe;
+    bool m_takesMulticast = false;
+};
+
+struct Result
+{
+    int exitCode = -1;
+    QString output;
+    QString errors;
+};
+
+inline Result resultOf(QProcess &process)
+{
+    if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+/// Runs camera-report, which says only what failed.
+inline Result report(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(REPORT_PROGRAM), QStringList("--quiet") + arguments);
+    return resultOf(process);
+}
+
+/// The same against \a device.
+inline Result report(const SimulatedDevice &device, const QStringList &arguments)
+{
+    QStringList filledIn;
+    for (const QString &argument : arguments)
+        filledIn += device.filledIn(argument);
+    return report(filledIn);
+}
+
+} // namespace test

@@ -1,0 +1,131 @@
+// Looking for cameras.
+
+#include "client/programs.h"
+
+#include <QtCore/QSet>
+#include <QtNetwork/QHostAddress>
+#include <QtNetwork/QNetworkInterface>
+#include <QtNetwork/QUdpSocket>
+
+namespace {
+
+using test::report;
+using test::Result;
+using test::samples;
+using test::SimulatedDevice;
+
+/// The addresses that a search has listed, one from each line.
+QSet<QString> listed(const QString &output)
+{
+    QSet<QString> addresses;
+    for (const QString &line : output.split('\n', Qt::SkipEmptyParts))
+        addresses.insert(line.section(": ", 0, 0));
+    return addresses;
+}
+
+QSet<QString> setOf(const QStringList &addresses)
+{
+    return {addresses.begin(), addresses.end()};
+}
+
+QString loopbackName()
+{
+    for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
+        if (interface.flags().testFlag(QNetworkInterface::IsLoopBack))
+            return interface.name();
+    }
+    return {};
+}
+
+TEST(Search, listsWhoAnswers)
+{
+    const SimulatedDevice device({samples("many-namespaces")});
+    const Result result = report(device, {"--probe-address", "{probe}", "--timeout", "3"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, device.filledIn("{address}: Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n"));
+}
+
+TEST(Search, listsEachOfTwoHundredOnce)
+{
+    const SimulatedDevice devices({samples("short-prefixes"), "--devices", "200"});
+    const Result result = report(devices, {"--probe-address", "{probe}", "--timeout", "6"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output.count('\n'), 200);
+    EXPECT_EQ(listed(result.output), setOf(devices.addresses()));
+}
+
+TEST(Search, reachesDevicesByMulticast)
+{
+    const SimulatedDevice device({samples("short-prefixes"), "--devices", "3"});
+    if (!device.takesMulticast())
+        GTEST_SKIP() << "The loopback interface of this machine does not take multicast.";
+    const Result result = report({"--interface", loopbackName(), "--timeout", "3"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    // Others may answer, too: whoever listens on this machine.
+    EXPECT_TRUE(listed(result.output).contains(setOf(device.addresses()))) << result.output.toStdString();
+}
+
+TEST(Search, reportsOnAllThatItFinds)
+{
+    const SimulatedDevice devices({samples("undeclared-prefixes"), "--devices", "3"});
+    const Result result = report(devices, {"--probe-address", "{probe}", "--all", "--timeout", "3"});
+    EXPECT_EQ(result.exitCode, 1); // the folder has no replies to some requests
+    for (const QString &address : devices.addresses())
+        EXPECT_TRUE(result.output.contains(QString("\nCamera at %1\n\nDevice\n").arg(address)))
+            << result.output.toStdString();
+    EXPECT_EQ(result.output.count("Model: PTZ 30x\n"), 3);
+}
+
+TEST(Search, asksNobodyButWhoAnswered)
+{
+    const SimulatedDevice device({samples("short-prefixes"), "--keep-addresses"});
+    const Result result = report(device, {"--probe-address", "{probe}", "--all", "--timeout", "3"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, "10.1.2.3:8080: BULLET-4K (Video)\n");
+    EXPECT_EQ(result.errors,
+              "camera-report: The camera that answered from 127.0.0.1 names only other addresses, so it is "
+              "not asked: 10.1.2.3:8080.\n");
+}
+
+TEST(Search, printsJson)
+{
+    const SimulatedDevice device({samples("many-namespaces")});
+    const Result result = report(device, {"--probe-address", "{probe}", "--json", "--timeout", "3"});
+    const QJsonObject expected{{"sender", "127.0.0.1"},
+                               {"addresses", QJsonArray{device.address()}},
+                               {"name", "Front Door"},
+                               {"hardware", "DOME-360"},
+                               {"types", QJsonArray{"Video", "PTZ", "Audio", "Analytics", "ProfileS"}}};
+    EXPECT_EQ(QJsonDocument::fromJson(result.output.toUtf8()).object()["found"].toObject(), expected)
+        << result.output.toStdString();
+}
+
+TEST(Search, endsWhereNobodyAnswers)
+{
+    QUdpSocket silent;
+    ASSERT_TRUE(silent.bind(QHostAddress::LocalHost));
+    const Result result =
+        report({"--probe-address", QString("127.0.0.1:%1").arg(silent.localPort()), "--timeout", "0.5"});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(result.errors, "camera-report: No camera was found.\n");
+    EXPECT_TRUE(silent.hasPendingDatagrams());
+}
+
+TEST(Search, endsWhereThePortIsClosed)
+{
+    QUdpSocket closed;
+    ASSERT_TRUE(closed.bind(QHostAddress::LocalHost));
+    const QString address = QString("127.0.0.1:%1").arg(closed.localPort());
+    closed.close();
+    EXPECT_EQ(report({"--probe-address", address, "--timeout", "0.5"}).exitCode, 3);
+}
+
+TEST(Search, leavesOutWhatIsNoProbeMatch)
+{
+    const SimulatedDevice device(
+        {samples("short-prefixes"), "--answer", "ProbeMatches=" + samples("sloppy/ProbeMatchesNoScopes.xml")});
+    EXPECT_EQ(report(device, {"--probe-address", "{probe}", "--timeout", "1"}).exitCode, 3);
+}
+
+} // namespace

@@ -1,0 +1,86 @@
+// The command lines of both programs.
+
+#include "client/programs.h"
+
+namespace {
+
+using test::report;
+using test::Result;
+using test::samples;
+
+TEST(Usage, isWrongInOneSentence)
+{
+    const std::pair<QStringList, const char *> rows[] = {
+        {{}, "Name one camera with --address, or with --interface where to search for cameras: "},
+        {{"--address", "a", "--interface", "b"}, "Name one camera with --address, or with --interface where"},
+        {{"--address", ""}, " is no address such as 192.0.2.7 or 192.0.2.7:8080."},
+        {{"--address", "a b"}, "a b is no address such as 192.0.2.7 or 192.0.2.7:8080."},
+        {{"--address", "192.0.2.7:99999"}, "192.0.2.7:99999 is no address such as"},
+        {{"--address", "user:secret@192.0.2.7"}, " is no address such as"},
+        {{"--address", "192.0.2.7/path"}, "192.0.2.7/path is no address such as"},
+        {{"--address", "a", "--all"}, "--all is for a search: give --interface instead of --address."},
+        {{"--address", "a", "--timeout", "soon"}, "--timeout wants a number of seconds from 0.01 to 3600."},
+        {{"--address", "a", "--timeout", "0"}, "--timeout wants a number of seconds from 0.01 to 3600."},
+        {{"--address", "a", "--timeout", "nan"}, "--timeout wants a number of seconds from 0.01 to 3600."},
+        {{"--address", "a", "--password-file", "f"}, "--user wants the name of the user, also where"},
+        {{"--address", "a", "--user", ""}, "--user wants the name of the user, also where"},
+        {{"--address", "a", "--apply"}, "--apply goes with --set-dhcp or --set-address."},
+        {{"--address", "a", "--set-address", "eth0"}, "eth0 has not the form eth0=192.0.2.7/24."},
+        {{"--address", "a", "--set-dhcp", "e", "--set-address", "e=192.0.2.7/24"},
+         "--set-dhcp and --set-address exclude each other."},
+        {{"--probe-address", "192.0.2.7:3702", "--set-dhcp", "e"}, "An interface can be set only of the camera that"},
+        {{"--probe-address", "192.0.2.7"}, "192.0.2.7 is no IPv4 address with a port, such as 192.0.2.7:3702."},
+        {{"--probe-address", "host:1"}, "host:1 is no IPv4 address with a port, such as 192.0.2.7:3702."},
+        {{"--interface", "no such"}, "This machine has no network interface no such; it has: "},
+        {{"--address", "a", "more"}, "more is not understood."},
+        {{"--no-such-option"}, "Unknown option 'no-such-option'."},
+    };
+    for (const auto &[arguments, sentence] : rows) {
+        const Result result = report(arguments);
+        EXPECT_EQ(result.exitCode, 2) << sentence;
+        EXPECT_EQ(result.output, "");
+        EXPECT_TRUE(result.errors.startsWith("camera-report: ") && result.errors.contains(sentence))
+            << result.errors.toStdString();
+        EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.toStdString();
+    }
+}
+
+TEST(Usage, isExplained)
+{
+    const Result help = report({"--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    EXPECT_EQ(help.errors, "");
+    for (const char *what : {"--address", "--set-dhcp", "Exit codes: 0", "130"})
+        EXPECT_TRUE(help.output.contains(what)) << what;
+    const Result version = report({"--version"});
+    EXPECT_EQ(version.exitCode, 0);
+    EXPECT_EQ(version.output, "camera-report " PROJECT_VERSION_TEXT "\n");
+}
+
+TEST(Usage, ofTheSimulatedDeviceIsWrongInOneSentence)
+{
+    const QString folder = samples("short-prefixes");
+    const std::pair<QStringList, const char *> rows[] = {
+        {{}, "Name one folder with replies."},
+        {{"/nowhere"}, "There is no folder /nowhere."},
+        {{folder, "--answer", "GetScopes"}, "GetScopes names no action and a file that can be read."},
+        {{folder, "--trouble", "bad-luck"}, "There is no trouble bad-luck; there are: silent, "},
+        {{folder, "--auth", "smile"}, "--auth wants token, http or basic."},
+        {{folder, "--listen", "0.0.0.0"}, "--listen wants an IPv4 address of this machine."},
+        {{folder, "--listen", "192.0.2.77"}, "It cannot listen there: the address is not of this machine, or"},
+        {{folder, "--port", "65536"}, "--port and --probe-port want the number of a port."},
+        {{folder, "--devices", "0"}, "--devices wants a number from 1 to 1000."},
+        {{folder, "--clock-ahead", "x"}, "--clock-ahead wants a number of seconds."},
+        {{folder, "--record", "/nowhere"}, "There is no folder /nowhere."},
+    };
+    for (const auto &[arguments, sentence] : rows) {
+        QProcess process;
+        process.start(QStringLiteral(DEVICE_PROGRAM), arguments);
+        const Result result = test::resultOf(process);
+        EXPECT_EQ(result.exitCode, 2) << sentence;
+        EXPECT_TRUE(result.errors.startsWith(QString("simulated-device: ") + sentence)) << result.errors.toStdString();
+        EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.toStdString();
+    }
+}
+
+} // namespace
