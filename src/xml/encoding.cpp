@@ -103,8 +103,8 @@ std::optional<QString> decodedFromOtherThanUtf8(const QByteArray &bytes)
     return decoder(bytes);
 }
 
-/// \a bytes with U+FFFD in place of each NUL. In one pass: QByteArray::replace() moves all that follows again and again,
-/// so that its time grows with the square of the size.
+/// \a bytes with U+FFFD in place of each NUL. In one pass: QByteArray::replace() moves all that follows again and
+/// again, so that its time grows with the square of the size.
 QByteArray withNulsReplaced(QByteArrayView bytes)
 {
     constexpr QByteArrayView replacement("\xEF\xBF\xBD");

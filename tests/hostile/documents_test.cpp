@@ -93,12 +93,12 @@ class HostileDocument : public testing::TestWithParam<Document>
 
 TEST_P(HostileDocument, ofFullSizeIsReadRightInProportionToItsSize)
 {
-    const auto [name, fullCount, make, isReadRight] = GetParam();
-    const qsizetype count = fullCount / scale;
-    const QByteArray large = make(count);
-    const QByteArray small = make(count / 10);
-    expectProportion([&] { EXPECT_TRUE(isReadRight(small, count / 10)); },
-                     [&] { EXPECT_TRUE(isReadRight(large, count)); });
+    const Document document = GetParam();
+    const qsizetype count = document.count / scale;
+    const QByteArray large = document.make(count);
+    const QByteArray small = document.make(count / 10);
+    expectProportion([&] { EXPECT_TRUE(document.isReadRight(small, count / 10)); },
+                     [&] { EXPECT_TRUE(document.isReadRight(large, count)); });
 }
 
 TEST_P(HostileDocument, isReadByAllRecordsInProportionToItsSize)

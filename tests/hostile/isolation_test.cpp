@@ -25,7 +25,7 @@ namespace {
 void isolate()
 {
     std::vector<sock_filter> program{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
-    for (const unsigned int call : {
+    for (const int call : {
 #ifdef SYS_open // newer processors have the others only
              SYS_open,
              SYS_creat,
@@ -44,7 +44,7 @@ void isolate()
              SYS_clone3,
              SYS_execve,
          }) {
-        program.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, call, 0, 1));
+        program.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned int>(call), 0, 1));
         program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_KILL_PROCESS));
     }
     program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
