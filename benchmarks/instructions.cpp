@@ -4,10 +4,17 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 
 #include <iostream>
+
+#if __has_include(<valgrind/callgrind.h>)
 #include <valgrind/callgrind.h>
+#define HAS_CALLGRIND 1
+#else
+#define HAS_CALLGRIND 0
+#endif
 
 namespace bench {
 namespace {
@@ -31,6 +38,11 @@ void addCount(const QString &file, Costs &instructions)
 }
 
 } // namespace
+
+bool canCountInstructions()
+{
+    return HAS_CALLGRIND != 0 && !QStandardPaths::findExecutable(QStringLiteral("valgrind")).isEmpty();
+}
 
 Costs countInstructions()
 {
@@ -68,11 +80,13 @@ bool isCountedRun()
 void runCounted(const Task &task)
 {
     task.run(); // so that what is done only once is not counted
+#if HAS_CALLGRIND
     CALLGRIND_START_INSTRUMENTATION;
     CALLGRIND_ZERO_STATS;
     task.run();
     CALLGRIND_DUMP_STATS_AT(task.name.c_str());
     CALLGRIND_STOP_INSTRUMENTATION;
+#endif
 }
 
 } // namespace bench

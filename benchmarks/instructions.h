@@ -17,9 +17,11 @@ struct Task
 /// What tasks cost, by their names.
 using Costs = std::map<std::string, double>;
 
+/// Whether valgrind is there, now and when this was built.
+bool canCountInstructions();
+
 /// Runs this program again under callgrind, with the same arguments and countOption() behind them, and returns what the
-/// tasks of that run took. Instructions do not depend on what else the machine does. Empty if valgrind is missing or
-/// fails.
+/// tasks of that run took. Instructions do not depend on what else the machine does. Empty if that fails.
 Costs countInstructions();
 
 /// The argument that marks the run under callgrind.

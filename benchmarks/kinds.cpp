@@ -78,7 +78,8 @@ const Values recording = {"XAddr",          "DynamicRecordings",  "DynamicTracks
 const Values capabilities =
     Values{"Imaging/XAddr", "PTZ/XAddr", "Extension/Replay/XAddr"}
     + below("Analytics", {"XAddr", "RuleSupport", "AnalyticsModuleSupport"})
-    + below("Device", {"XAddr", "IO/RelayOutputs", "IO/InputConnectors", "IO/Extension/Auxiliary"})
+    + below("Device", {"XAddr", "IO/RelayOutputs", "IO/InputConnectors", "IO/Extension/Auxiliary",
+                       "IO/Extension/AuxiliaryCommands"})
     + below("Device/Network", {"IPFilter", "ZeroConfiguration", "IPVersion6", "DynDNS", "Extension/Dot11Configuration"})
     + below("Device/System", {"DiscoveryResolve", "DiscoveryBye", "RemoteDiscovery", "SystemBackup", "FirmwareUpgrade",
                               "SystemLogging", "SupportedVersions/Major", "SupportedVersions/Minor"})
@@ -162,6 +163,11 @@ std::vector<Kind> makeKinds()
              const OnvifFault fault(reply, "GetProfiles", 0);
              return fault.is(OnvifFault::Sender, OnvifFault::InvalidArgVal, OnvifFault::NoProfile) ? 1 : 0;
          }},
+        {"OnvifFault of an error page",
+         QStringLiteral("Html*"),
+         {0.20, 0.20},
+         ByHand("head", {"title"}),
+         [](const QByteArray &reply) -> qsizetype { return OnvifFault(reply, "GetProfiles", 0).hasError() ? 1 : 0; }},
         recordKind<OnvifDeviceInformation>(
             "OnvifDeviceInformation", "GetDeviceInformation", {0.09, 0.10},
             ByHand(responsePath("GetDeviceInformation"),
@@ -191,7 +197,7 @@ std::vector<Kind> makeKinds()
     addConfigurations<OnvifAudioSourceConfigurationVector, OnvifCompatibleAudioSourceConfigurationVector>(
         kinds, "AudioSource", "AudioSourceConfigurations", audioSource);
     addConfigurations<OnvifAudioOutputConfigurationVector, OnvifCompatibleAudioOutputConfigurationVector>(
-        kinds, "AudioOutput", "AudioOutputConfigurations", audioOutput);
+        kinds, "AudioOutput", "AudioOutputConfigurations", audioOutput, "Configurations|Options");
     addConfigurations<OnvifAudioEncoderConfigurationVector, OnvifCompatibleAudioEncoderConfigurationVector>(
         kinds, "AudioEncoder", "AudioEncoderConfigurations", audioEncoder);
     addConfigurations<OnvifAudioDecoderConfigurationVector, OnvifCompatibleAudioDecoderConfigurationVector>(
@@ -204,6 +210,16 @@ std::vector<Kind> makeKinds()
         "OnvifCompatibleMetadataConfigurationVector", "GetCompatibleMetadataConfigurations", "Configurations",
         {0.38, 0.43}, metadata));
     kinds.push_back(profiles);
+    for (const char *operation : {"GetProfile", "CreateProfile"}) {
+        const QString root = QString::fromStdString("/Envelope/" + responsePath(operation));
+        kinds.push_back({"OnvifProfile",
+                         QLatin1String(operation),
+                         {0.10, 0.11},
+                         ByHand(responsePath(operation) + "/Profile", {"@token", "@fixed", "Name"}),
+                         [root](const QByteArray &reply) -> qsizetype {
+                             return OnvifProfile(reply, root).token.isEmpty() ? 0 : 1;
+                         }});
+    }
     kinds.push_back({"OnvifFault, then OnvifProfileVector",
                      getProfiles,
                      {0.48, 0.54},

@@ -4,6 +4,7 @@
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 
+#include <cctype>
 #include <cstdlib>
 #include <iostream>
 

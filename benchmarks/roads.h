@@ -39,8 +39,10 @@ public:
     std::vector<Task> guardedTasks() const;
 
     /// Prints a table with a row for each reply; each cost is a multiple of that of setContent. \a seedless are the
-    /// times with a hash seed of 0. False if a reply takes more instructions than its limit allows.
-    bool print(std::ostream &output, const Costs &times, const Costs &seedless, const Costs &instructions) const;
+    /// times with a hash seed of 0. False if a reply takes more instructions than its limit allows that did not do so
+    /// when the ratios were \a committed.
+    bool print(std::ostream &output, const Costs &times, const Costs &seedless, const Costs &instructions,
+               const std::map<std::string, double> &committed) const;
 
     /// What the library takes of setContent, in instructions, for each reply.
     std::map<std::string, double> ratios(const Costs &instructions) const;

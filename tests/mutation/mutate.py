@@ -370,6 +370,8 @@ def main():
     parser.add_argument("--jobs", type=int, default=1)
     parser.add_argument("file", nargs="*")
     options = parser.parse_args()
+    if options.count < 0 or options.jobs < 1:
+        parser.error("--count takes 0 or more, --jobs 1 or more")
 
     files = source_files()
     names = [str(path.relative_to(ROOT)) for path in files]
