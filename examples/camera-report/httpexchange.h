@@ -13,7 +13,8 @@
 
 namespace client {
 
-/// A reply that is longer is not read to its end: none of an honest device comes near.
+/// A body that is longer is not read to its end: none of an honest device comes near. The head of a reply, which Qt
+/// reads by itself, is limited by the time alone.
 inline constexpr qsizetype maximumReplySize = qsizetype(4) * 1024 * 1024;
 
 /// What one request over HTTP brought.

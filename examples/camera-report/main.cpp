@@ -9,6 +9,8 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSocketNotifier>
 
+#include <cstdlib>
+
 namespace {
 
 int fail(const QString &sentence)
@@ -17,10 +19,31 @@ int fail(const QString &sentence)
     return client::CannotRun;
 }
 
+/// \a exitCode, unless the output is lost.
+int afterOutput(int exitCode)
+{
+    return example::isOutputWritten() ? exitCode : fail("The output cannot be written.");
+}
+
 client::PasswordInput passwordFor(const client::Options &options, int stopDescriptor)
 {
     return options.passwordFile.isEmpty() ? client::passwordFromTerminal(options.user, stopDescriptor)
                                           : client::passwordFromFile(options.passwordFile);
+}
+
+int run(const client::Options &options, const client::Credentials &credentials, int stopDescriptor)
+{
+    QSocketNotifier stopped(stopDescriptor, QSocketNotifier::Read);
+    QObject::connect(&stopped, &QSocketNotifier::activated, [] { QCoreApplication::exit(client::Stopped); });
+    client::Program program(options, credentials);
+    QMetaObject::invokeMethod(
+        &program, [&program] { program.start(); }, Qt::QueuedConnection);
+    const int exitCode = afterOutput(QCoreApplication::exec());
+    // What was broken off may still be under way in threads of Qt, whose end would be waited for: 5 s if a device
+    // floods the head of its reply, and longer if no name server answers.
+    if (exitCode != client::Complete)
+        std::_Exit(exitCode);
+    return exitCode;
 }
 
 } // namespace
@@ -33,7 +56,7 @@ int main(int argc, char **argv)
         return fail(line.complaint + " Try --help.");
     if (!line.options) {
         example::print(line.answer);
-        return client::Complete;
+        return afterOutput(client::Complete);
     }
 
     const int stopDescriptor = example::catchStopSignals();
@@ -46,14 +69,5 @@ int main(int argc, char **argv)
             return fail(input.complaint);
         credentials.password = *input.password;
     }
-
-    QSocketNotifier stopped(stopDescriptor, QSocketNotifier::Read);
-    QObject::connect(&stopped, &QSocketNotifier::activated, [] { QCoreApplication::exit(client::Stopped); });
-    client::Program program(*line.options, credentials);
-    QMetaObject::invokeMethod(
-        &program, [&program] { program.start(); }, Qt::QueuedConnection);
-    const int exitCode = QCoreApplication::exec();
-    if (!example::isOutputWritten())
-        return fail("The output cannot be written.");
-    return exitCode;
+    return run(*line.options, credentials, stopDescriptor);
 }

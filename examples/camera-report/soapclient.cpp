@@ -94,10 +94,11 @@ void SoapClient::ask(const QUrl &url, const Request &request, const Done &done)
 void SoapClient::askClock(const QUrl &url, const Request &request, const Done &done)
 {
     post(url, clockRequest, false, [=](const HttpReply &reply) {
-        if (reply.failure != TransportFailure::None)
-            return done(answerTo(clockRequest, reply));
+        const Answer answer = answerTo(clockRequest, reply);
+        if (!answer.received)
+            return done(answer);
         const QDateTime now = QDateTime::currentDateTimeUtc();
-        const QDateTime deviceTime = timeIn(reply.body);
+        const QDateTime deviceTime = timeIn(answer.bytes);
         m_clockAhead = deviceTime.isValid() ? now.secsTo(deviceTime) : 0;
         askOfKnownClock(url, request, done);
     });

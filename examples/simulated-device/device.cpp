@@ -38,9 +38,11 @@ Device::Device(const Options &options)
     });
 }
 
-bool Device::start(quint16 port)
+QString Device::start(quint16 port)
 {
-    return listen(m_options.listen, port);
+    if (listen(m_options.listen, port))
+        return {};
+    return QString("No device can listen at %1:%2: %3.").arg(m_options.listen.toString()).arg(port).arg(errorString());
 }
 
 QByteArray Device::address() const

@@ -15,8 +15,8 @@ class Device : public QTcpServer
 public:
     explicit Device(const Options &options);
 
-    /// Listens at \a port. False if that is not possible.
-    bool start(quint16 port);
+    /// Listens at \a port. Returns one sentence if that fails.
+    QString start(quint16 port);
 
     /// Where the device is reached: a host and a port.
     QByteArray address() const;

@@ -25,17 +25,32 @@ int fail(const QString &sentence)
     return CannotRun;
 }
 
-/// As many devices as are wanted, all listening; fewer if that is not possible.
-std::vector<std::unique_ptr<simulator::Device>> startDevices(const simulator::Options &options)
+/// \a exitCode, unless the output is lost.
+int afterOutput(int exitCode)
 {
-    std::vector<std::unique_ptr<simulator::Device>> devices;
+    return example::isOutputWritten() ? exitCode : fail("The output cannot be written.");
+}
+
+using Devices = std::vector<std::unique_ptr<simulator::Device>>;
+
+/// Adds as many \a devices as are wanted, all listening. Returns one sentence if that fails.
+QString startDevices(const simulator::Options &options, Devices &devices)
+{
     for (int index = 0; index < options.devices; ++index) {
-        auto device = std::make_unique<simulator::Device>(options);
-        if (!device->start(static_cast<quint16>(options.port == 0 ? 0 : options.port + index)))
-            break;
-        devices.push_back(std::move(device));
+        devices.push_back(std::make_unique<simulator::Device>(options));
+        QString complaint = devices.back()->start(static_cast<quint16>(options.port == 0 ? 0 : options.port + index));
+        if (!complaint.isEmpty())
+            return complaint;
     }
-    return devices;
+    return {};
+}
+
+QList<QByteArray> addressesOf(const Devices &devices)
+{
+    QList<QByteArray> addresses;
+    for (const auto &device : devices)
+        addresses.append(device->address());
+    return addresses;
 }
 
 void announce(const QList<QByteArray> &addresses, const simulator::ProbeResponder &responder)
@@ -49,6 +64,26 @@ void announce(const QList<QByteArray> &addresses, const simulator::ProbeResponde
     example::print(QString::fromUtf8(QJsonDocument(line).toJson(QJsonDocument::Compact)) + '\n');
 }
 
+int run(const simulator::Options &options)
+{
+    QSocketNotifier stopped(example::catchStopSignals(), QSocketNotifier::Read);
+    QObject::connect(&stopped, &QSocketNotifier::activated, [] { QCoreApplication::exit(WasStopped); });
+
+    Devices devices;
+    QString complaint = startDevices(options, devices);
+    if (!complaint.isEmpty())
+        return fail(complaint);
+    const QList<QByteArray> addresses = addressesOf(devices);
+    simulator::ProbeResponder responder(options, addresses);
+    complaint = responder.start();
+    if (!complaint.isEmpty())
+        return fail(complaint);
+
+    announce(addresses, responder);
+    const int exitCode = afterOutput(WasStopped);
+    return exitCode == WasStopped ? QCoreApplication::exec() : exitCode;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -59,22 +94,7 @@ int main(int argc, char **argv)
         return fail(line.complaint + " Try --help.");
     if (!line.options) {
         example::print(line.answer);
-        return WasStopped;
+        return afterOutput(WasStopped);
     }
-
-    QSocketNotifier stopped(example::catchStopSignals(), QSocketNotifier::Read);
-    QObject::connect(&stopped, &QSocketNotifier::activated, [] { QCoreApplication::exit(WasStopped); });
-
-    const auto devices = startDevices(*line.options);
-    if (devices.size() < static_cast<std::size_t>(line.options->devices))
-        return fail("It cannot listen there: the address is not of this machine, or a port is taken.");
-    QList<QByteArray> addresses;
-    for (const auto &device : devices)
-        addresses.append(device->address());
-    simulator::ProbeResponder responder(*line.options, addresses);
-    if (!responder.start())
-        return fail("It cannot listen for probes: the port is taken.");
-
-    announce(addresses, responder);
-    return example::isOutputWritten() ? QCoreApplication::exec() : fail("The output cannot be written.");
+    return run(*line.options);
 }

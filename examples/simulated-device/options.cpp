@@ -57,9 +57,9 @@ std::pair<QString, QString> split(const QString &text)
 
 QString readReplies(const QCommandLineParser &parser, const Known &known, Options &options)
 {
-    if (parser.positionalArguments().size() != 1)
-        return "Name one folder with replies.";
-    options.folder = QDir(parser.positionalArguments().constFirst());
+    if (parser.positionalArguments().size() > 1)
+        return "Name only one folder with replies.";
+    options.folder = QDir(parser.positionalArguments().value(0, SAMPLES_FOLDER "/short-prefixes"));
     if (!options.folder.exists())
         return QString("There is no folder %1.").arg(options.folder.path());
     for (const QString &text : parser.values(known.answer)) {
@@ -68,6 +68,9 @@ QString readReplies(const QCommandLineParser &parser, const Known &known, Option
             return QString("%1 names no action and a file that can be read.").arg(text);
         options.answers.insert(action, file);
     }
+    if (options.answers.isEmpty() && options.folder.entryList({"*.xml"}, QDir::Files | QDir::Readable).isEmpty())
+        return QString("The folder %1 holds no reply that can be read, such as GetScopes.xml.")
+            .arg(options.folder.path());
     for (const QString &text : parser.values(known.trouble)) {
         const auto [action, name] = split(text);
         const Trouble trouble = troubleByName(name);
@@ -140,7 +143,8 @@ CommandLine readCommandLine(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(description);
     parser.addOptions(known.inOrder());
-    parser.addPositionalArgument("FOLDER", "The folder with the replies, such as samples/short-prefixes.");
+    parser.addPositionalArgument("FOLDER", "The folder with the replies. Without it: samples/short-prefixes.",
+                                 "[FOLDER]");
     CommandLine line;
     Options options;
     if (!parser.parse(arguments))

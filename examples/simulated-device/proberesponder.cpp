@@ -44,12 +44,16 @@ ProbeResponder::ProbeResponder(const Options &options, const QList<QByteArray> &
     connect(&m_pause, &QTimer::timeout, this, [this] { sendNextAnswer(); });
 }
 
-bool ProbeResponder::start()
+QString ProbeResponder::start()
 {
-    if (!m_socket.bind(m_options.listen, m_options.probePort))
-        return false;
+    if (!m_socket.bind(m_options.listen, m_options.probePort)) {
+        return QString("Probes cannot be taken at %1:%2: %3.")
+            .arg(m_options.listen.toString())
+            .arg(m_options.probePort)
+            .arg(m_socket.errorString());
+    }
     m_takesMulticast = joinGroup();
-    return true;
+    return {};
 }
 
 QByteArray ProbeResponder::address() const

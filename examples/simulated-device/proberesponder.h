@@ -18,8 +18,8 @@ public:
     /// \a deviceAddresses are hosts with ports.
     ProbeResponder(const Options &options, const QList<QByteArray> &deviceAddresses);
 
-    /// Listens for probes. False if that is not possible; multicast may fail alone.
-    bool start();
+    /// Listens for probes. Returns one sentence if that fails; but multicast may fail alone.
+    QString start();
 
     bool takesMulticast() const { return m_takesMulticast; }
 

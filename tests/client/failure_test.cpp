@@ -2,6 +2,7 @@
 
 #include "client/programs.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtNetwork/QHostAddress>
 #include <QtNetwork/QTcpServer>
 
@@ -64,6 +65,20 @@ TEST(Failure, ofTheTransportEndsTheReportButKeepsWhatWasAnswered)
                                              "connection ended in the middle of the reply)\n"));
     EXPECT_TRUE(result.output.contains("Model: Bullet 4K\n"));
     EXPECT_FALSE(result.output.contains("Profiles\n"));
+}
+
+TEST(Failure, ofAFloodedHeadIsNotWaitedForAnyLonger)
+{
+    const SimulatedDevice device({samples("short-prefixes"), "--trouble", "endless-head"});
+    // Qt's own wait for its thread is 5 s each time, whereas even a loaded machine is fast for once.
+    qint64 fastest = test::patience;
+    for (int attempt = 0; attempt < 5 && fastest >= 5000; ++attempt) {
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_EQ(report(device, {"--address", "{address}", "--timeout", "0.1"}).exitCode, 1);
+        fastest = std::min(fastest, timer.elapsed());
+    }
+    EXPECT_LT(fastest, 5000);
 }
 
 TEST(Failure, isAReplyOfMoreThanFourMebibytes)

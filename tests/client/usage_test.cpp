@@ -7,6 +7,7 @@ namespace {
 using test::report;
 using test::Result;
 using test::samples;
+using test::SimulatedDevice;
 
 TEST(Usage, isWrongInOneSentence)
 {
@@ -57,29 +58,92 @@ TEST(Usage, isExplained)
     EXPECT_EQ(version.output, "camera-report " PROJECT_VERSION_TEXT "\n");
 }
 
+/// Runs simulated-device, with arguments that make it end.
+Result simulate(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(DEVICE_PROGRAM), arguments);
+    return test::resultOf(process);
+}
+
 TEST(Usage, ofTheSimulatedDeviceIsWrongInOneSentence)
 {
     const QString folder = samples("short-prefixes");
     const std::pair<QStringList, const char *> rows[] = {
-        {{}, "Name one folder with replies."},
+        {{folder, folder}, "Name only one folder with replies."},
+        {{SAMPLES_FOLDER}, "The folder " SAMPLES_FOLDER " holds no reply that can be read, such as GetScopes.xml."},
         {{"/nowhere"}, "There is no folder /nowhere."},
         {{folder, "--answer", "GetScopes"}, "GetScopes names no action and a file that can be read."},
         {{folder, "--trouble", "bad-luck"}, "There is no trouble bad-luck; there are: silent, "},
         {{folder, "--auth", "smile"}, "--auth wants token, http or basic."},
         {{folder, "--listen", "0.0.0.0"}, "--listen wants an IPv4 address of this machine."},
-        {{folder, "--listen", "192.0.2.77"}, "It cannot listen there: the address is not of this machine, or"},
+        {{folder, "--listen", "192.0.2.77"}, "No device can listen at 192.0.2.77:0: "},
         {{folder, "--port", "65536"}, "--port and --probe-port want the number of a port."},
         {{folder, "--devices", "0"}, "--devices wants a number from 1 to 1000."},
         {{folder, "--clock-ahead", "x"}, "--clock-ahead wants a number of seconds."},
         {{folder, "--record", "/nowhere"}, "There is no folder /nowhere."},
     };
     for (const auto &[arguments, sentence] : rows) {
-        QProcess process;
-        process.start(QStringLiteral(DEVICE_PROGRAM), arguments);
-        const Result result = test::resultOf(process);
+        const Result result = simulate(arguments);
         EXPECT_EQ(result.exitCode, 2) << sentence;
         EXPECT_TRUE(result.errors.startsWith(QString("simulated-device: ") + sentence)) << result.errors.toStdString();
         EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.toStdString();
+    }
+}
+
+TEST(Usage, ofTheSimulatedDeviceIsExplained)
+{
+    const Result help = simulate({"--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    EXPECT_EQ(help.errors, "");
+    for (const char *what : {"[FOLDER]", "samples/short-prefixes", "--trouble", "endless-head", "Exit codes: 0"})
+        EXPECT_TRUE(help.output.contains(what)) << what;
+}
+
+TEST(Usage, ofAPortThatIsTakenIsRefused)
+{
+    const SimulatedDevice device({});
+    const QString port = device.address().section(':', 1);
+    const Result second = simulate({"--port", port});
+    EXPECT_EQ(second.exitCode, 2);
+    EXPECT_TRUE(second.errors.startsWith(device.filledIn("simulated-device: No device can listen at {address}: ")))
+        << second.errors.toStdString();
+
+    const QString probePort = device.filledIn("{probe}").section(':', 1);
+    const Result third = simulate({"--probe-port", probePort});
+    EXPECT_EQ(third.exitCode, 2);
+    EXPECT_TRUE(third.errors.startsWith(device.filledIn("simulated-device: Probes cannot be taken at {probe}: ")))
+        << third.errors.toStdString();
+}
+
+TEST(Usage, ofTheSimulatedDeviceNeedsNoArgument)
+{
+    const SimulatedDevice device({});
+    EXPECT_TRUE(device.address().startsWith("127.0.0.1:"));
+    EXPECT_TRUE(device.filledIn("{probe}").startsWith("127.0.0.1:"));
+    const Result result = report(device, {"--address", "{address}", "--timeout", "60"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    EXPECT_TRUE(result.output.contains("Model: Bullet 4K\n"));
+}
+
+TEST(Usage, failsWhereTheOutputIsLost)
+{
+    if (!QFile::exists("/dev/full"))
+        GTEST_SKIP() << "This machine has no device that takes no output.";
+    const SimulatedDevice device({});
+    const std::pair<const char *, QStringList> rows[] = {
+        {REPORT_PROGRAM, {"--quiet", "--address", device.address(), "--timeout", "60"}},
+        {REPORT_PROGRAM, {"--help"}},
+        {DEVICE_PROGRAM, {}},
+        {DEVICE_PROGRAM, {"--help"}},
+    };
+    for (const auto &[program, arguments] : rows) {
+        QProcess process;
+        process.setStandardOutputFile("/dev/full");
+        process.start(program, arguments);
+        const Result result = test::resultOf(process);
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_TRUE(result.errors.endsWith(": The output cannot be written.\n")) << result.errors.toStdString();
     }
 }
 
