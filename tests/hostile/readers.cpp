@@ -18,6 +18,7 @@ void query(const QByteArray &reply)
 {
     const QString path = u"/Envelope"_s;
     vorn::XmlResponse response(reply, QString());
+    (void)response.getAll(path); // before there are other nodes, so that memory is that for one of each
     const vorn::XmlResponseNode node = response.get(path);
     (void)node.element.text();
     (void)response.getText(node, path);
@@ -64,7 +65,7 @@ const std::vector<Reader> &readers()
         reader<OnvifRelayOutputVector>("OnvifRelayOutputVector", "GetRelayOutputsResponse"),
         reader<OnvifProfile>("OnvifProfile", "GetProfileResponse"),
         reader<OnvifProfileVector>("OnvifProfileVector", "GetProfilesResponse"),
-        // One answer for all of these, as each looks for its elements below the path that it is given.
+        // One path for all of these, as each looks for its elements below the path that it is given.
         reader<OnvifVideoSourceConfigurationVector>("OnvifVideoSourceConfigurationVector", "GetConfigurationsResponse"),
         reader<OnvifVideoEncoderConfigurationVector>("OnvifVideoEncoderConfigurationVector",
                                                      "GetConfigurationsResponse"),
