@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <iomanip>
 #include <iostream>
+#include <memory>
 #include <string>
 
 using hostile::Cost;
@@ -38,27 +39,32 @@ void require(bool holds, const std::string &what)
     good = good && holds;
 }
 
-/// The one of all records that takes the longest and the one that takes the most memory may be two.
+/// The records that take the longest, take the most memory and hold the most may be different ones.
 void printFullSize(const Document &document)
 {
     const QByteArray reply = document.make(document.count);
     require(document.isReadRight(reply, document.count), nameOf(document) + " are read wrongly");
     double seconds = 0;
     std::size_t peakBytes = 0;
+    std::ptrdiff_t heldBytes = 0;
     const char *slowest = nullptr;
     for (const Reader &reader : hostile::readers()) {
-        const auto read = [&] { reader.read(reply); };
+        std::shared_ptr<const void> record;
+        const auto read = [&] { record = reader.read(reply); };
         const Cost first = hostile::costOf(read);
+        record.reset();
         const double least = std::min(first.seconds, hostile::costOf(read).seconds);
         if (least > seconds)
             slowest = reader.name;
         seconds = std::max(seconds, least);
         peakBytes = std::max(peakBytes, first.peakBytes);
+        heldBytes = std::max(heldBytes, first.heldBytes);
     }
     const auto size = static_cast<double>(reply.size());
     std::cout << "| " << nameOf(document) << " | " << std::setprecision(1) << size / 1e6 << " | " << seconds * 1e3
               << " | " << seconds * 1e9 / size << " | " << slowest << " | " << static_cast<double>(peakBytes) / 1e6
-              << " | " << static_cast<double>(peakBytes) / size << " |" << std::endl;
+              << " | " << static_cast<double>(peakBytes) / size << " | " << static_cast<double>(heldBytes) / size
+              << " |" << std::endl;
 }
 
 /// The parts of the full size at which growth is measured: to be counted, an instruction takes fifty times as long.
@@ -113,8 +119,9 @@ int main(int argc, char **argv)
         return EXIT_SUCCESS;
     }
     std::cout << std::fixed
-              << "| Reply | MB | slowest, ms | ns for a byte | which | most memory, MB | bytes for a byte |\n"
-                 "|---|---:|---:|---:|---|---:|---:|\n";
+              << "| Reply | MB | slowest, ms | ns for a byte | which | most memory, MB | bytes for a byte | held for a "
+                 "byte |\n"
+                 "|---|---:|---:|---:|---|---:|---:|---:|\n";
     for (const Document &document : hostile::documents())
         printFullSize(document);
 

@@ -440,10 +440,11 @@ bool hasEmptyProfiles(const QByteArray &reply, qsizetype count)
 /// Only the first counts.
 QByteArray singleProfiles(qsizetype count)
 {
-    return inBody("<r:GetProfileResponse>" + numbered(count, [](const auto &n) {
-                      return "<r:Profile token='" + n + "'><t:Name>" + n + "</t:Name></r:Profile>";
-                  })
-                  + "</r:GetProfileResponse>");
+    return inBody(
+        "<r:GetProfileResponse>"
+        + numbered(count,
+                   [](const auto &n) { return "<r:Profile token='" + n + "'><t:Name>" + n + "</t:Name></r:Profile>"; })
+        + "</r:GetProfileResponse>");
 }
 
 bool hasFirstProfile(const QByteArray &reply, qsizetype)
@@ -455,9 +456,11 @@ bool hasFirstProfile(const QByteArray &reply, qsizetype)
 /// An answer to each request for configurations, as all have the same form.
 QByteArray configurationsIn(const QByteArray &response, qsizetype count)
 {
-    return "<r:" + response + ">" + numbered(count, [](const auto &n) {
-               return "<r:Configurations token='" + n + "'/><r:PTZConfiguration token='" + n + "'/>";
-           })
+    return "<r:" + response + ">"
+           + numbered(count,
+                      [](const auto &n) {
+                          return "<r:Configurations token='" + n + "'/><r:PTZConfiguration token='" + n + "'/>";
+                      })
            + "</r:" + response + ">";
 }
 
@@ -544,10 +547,12 @@ bool hasManualAddresses(const QByteArray &reply, qsizetype count)
 
 QByteArray relays(qsizetype count)
 {
-    return inBody("<r:GetRelayOutputsResponse>" + numbered(count, [](const auto &n) {
-                      return "<r:RelayOutputs token='" + n + "'><t:Properties><t:DelayTime>" + n
-                             + "</t:DelayTime></t:Properties></r:RelayOutputs>";
-                  })
+    return inBody("<r:GetRelayOutputsResponse>"
+                  + numbered(count,
+                             [](const auto &n) {
+                                 return "<r:RelayOutputs token='" + n + "'><t:Properties><t:DelayTime>" + n
+                                        + "</t:DelayTime></t:Properties></r:RelayOutputs>";
+                             })
                   + "</r:GetRelayOutputsResponse>");
 }
 
@@ -560,9 +565,12 @@ bool hasRelays(const QByteArray &reply, qsizetype count)
 /// Only the first counts.
 QByteArray gateways(qsizetype count)
 {
-    return inBody("<r:GetNetworkDefaultGatewayResponse><r:NetworkGateway>" + numbered(count, [](const auto &n) {
-                      return "<t:IPv4Address>" + n + "</t:IPv4Address><t:IPv6Address>" + n + "</t:IPv6Address>";
-                  })
+    return inBody("<r:GetNetworkDefaultGatewayResponse><r:NetworkGateway>"
+                  + numbered(count,
+                             [](const auto &n) {
+                                 return "<t:IPv4Address>" + n + "</t:IPv4Address><t:IPv6Address>" + n
+                                        + "</t:IPv6Address>";
+                             })
                   + "</r:NetworkGateway></r:GetNetworkDefaultGatewayResponse>");
 }
 
@@ -575,17 +583,17 @@ bool hasFirstGateway(const QByteArray &reply, qsizetype)
 /// Each kind of capability that a device may have many of.
 QByteArray capabilities(qsizetype count)
 {
-    const QByteArray versions = numbered(count, [](const auto &n) {
-        return "<t:SupportedVersions><t:Major>" + n + "</t:Major></t:SupportedVersions>";
-    });
-    const QByteArray commands = numbered(
-        count, [](const auto &n) { return "<t:AuxiliaryCommands>" + n + "</t:AuxiliaryCommands>"; });
-    const QByteArray methods = numbered(
-        count, [](const auto &n) { return "<t:SupportedEAPMethod>" + n + "</t:SupportedEAPMethod>"; });
-    return inBody("<r:GetCapabilitiesResponse><r:Capabilities><t:Device><t:System>" + versions
-                  + "</t:System><t:IO><t:Extension><t:Auxiliary>true</t:Auxiliary>" + commands
-                  + "</t:Extension></t:IO><t:Security><t:Extension><t:Extension>" + methods
-                  + "</t:Extension></t:Extension></t:Security></t:Device></r:Capabilities></r:GetCapabilitiesResponse>");
+    const QByteArray versions = numbered(
+        count, [](const auto &n) { return "<t:SupportedVersions><t:Major>" + n + "</t:Major></t:SupportedVersions>"; });
+    const QByteArray commands =
+        numbered(count, [](const auto &n) { return "<t:AuxiliaryCommands>" + n + "</t:AuxiliaryCommands>"; });
+    const QByteArray methods =
+        numbered(count, [](const auto &n) { return "<t:SupportedEAPMethod>" + n + "</t:SupportedEAPMethod>"; });
+    return inBody(
+        "<r:GetCapabilitiesResponse><r:Capabilities><t:Device><t:System>" + versions
+        + "</t:System><t:IO><t:Extension><t:Auxiliary>true</t:Auxiliary>" + commands
+        + "</t:Extension></t:IO><t:Security><t:Extension><t:Extension>" + methods
+        + "</t:Extension></t:Extension></t:Security></t:Device></r:Capabilities></r:GetCapabilitiesResponse>");
 }
 
 bool hasCapabilities(const QByteArray &reply, qsizetype count)
