@@ -58,6 +58,11 @@ QByteArray inBody(const QByteArray &content)
     return "<s:Envelope><s:Body>" + content + "</s:Body></s:Envelope>";
 }
 
+QByteArray element(const QByteArray &name, const QByteArray &content)
+{
+    return "<" + name + ">" + content + "</" + name + ">";
+}
+
 // For bytes that cannot be parsed.
 
 bool isRefused(const QByteArray &reply, qsizetype)
@@ -440,11 +445,9 @@ bool hasEmptyProfiles(const QByteArray &reply, qsizetype count)
 /// Only the first counts.
 QByteArray singleProfiles(qsizetype count)
 {
-    return inBody(
-        "<r:GetProfileResponse>"
-        + numbered(count,
-                   [](const auto &n) { return "<r:Profile token='" + n + "'><t:Name>" + n + "</t:Name></r:Profile>"; })
-        + "</r:GetProfileResponse>");
+    return inBody(element("r:GetProfileResponse", numbered(count, [](const auto &n) {
+                              return "<r:Profile token='" + n + "'>" + element("t:Name", n) + "</r:Profile>";
+                          })));
 }
 
 bool hasFirstProfile(const QByteArray &reply, qsizetype)
@@ -456,12 +459,9 @@ bool hasFirstProfile(const QByteArray &reply, qsizetype)
 /// An answer to each request for configurations, as all have the same form.
 QByteArray configurationsIn(const QByteArray &response, qsizetype count)
 {
-    return "<r:" + response + ">"
-           + numbered(count,
-                      [](const auto &n) {
-                          return "<r:Configurations token='" + n + "'/><r:PTZConfiguration token='" + n + "'/>";
-                      })
-           + "</r:" + response + ">";
+    return element("r:" + response, numbered(count, [](const auto &n) {
+                       return "<r:Configurations token='" + n + "'/><r:PTZConfiguration token='" + n + "'/>";
+                   }));
 }
 
 const auto configurationsPath = u"/Envelope/Body/GetConfigurationsResponse"_s;
@@ -547,13 +547,10 @@ bool hasManualAddresses(const QByteArray &reply, qsizetype count)
 
 QByteArray relays(qsizetype count)
 {
-    return inBody("<r:GetRelayOutputsResponse>"
-                  + numbered(count,
-                             [](const auto &n) {
-                                 return "<r:RelayOutputs token='" + n + "'><t:Properties><t:DelayTime>" + n
-                                        + "</t:DelayTime></t:Properties></r:RelayOutputs>";
-                             })
-                  + "</r:GetRelayOutputsResponse>");
+    return inBody(element("r:GetRelayOutputsResponse", numbered(count, [](const auto &n) {
+                              return "<r:RelayOutputs token='" + n + "'>"
+                                     + element("t:Properties", element("t:DelayTime", n)) + "</r:RelayOutputs>";
+                          })));
 }
 
 bool hasRelays(const QByteArray &reply, qsizetype count)
@@ -565,13 +562,9 @@ bool hasRelays(const QByteArray &reply, qsizetype count)
 /// Only the first counts.
 QByteArray gateways(qsizetype count)
 {
-    return inBody("<r:GetNetworkDefaultGatewayResponse><r:NetworkGateway>"
-                  + numbered(count,
-                             [](const auto &n) {
-                                 return "<t:IPv4Address>" + n + "</t:IPv4Address><t:IPv6Address>" + n
-                                        + "</t:IPv6Address>";
-                             })
-                  + "</r:NetworkGateway></r:GetNetworkDefaultGatewayResponse>");
+    const QByteArray addresses =
+        numbered(count, [](const auto &n) { return element("t:IPv4Address", n) + element("t:IPv6Address", n); });
+    return inBody(element("r:GetNetworkDefaultGatewayResponse", element("r:NetworkGateway", addresses)));
 }
 
 bool hasFirstGateway(const QByteArray &reply, qsizetype)
@@ -583,17 +576,14 @@ bool hasFirstGateway(const QByteArray &reply, qsizetype)
 /// Each kind of capability that a device may have many of.
 QByteArray capabilities(qsizetype count)
 {
-    const QByteArray versions = numbered(
-        count, [](const auto &n) { return "<t:SupportedVersions><t:Major>" + n + "</t:Major></t:SupportedVersions>"; });
-    const QByteArray commands =
-        numbered(count, [](const auto &n) { return "<t:AuxiliaryCommands>" + n + "</t:AuxiliaryCommands>"; });
-    const QByteArray methods =
-        numbered(count, [](const auto &n) { return "<t:SupportedEAPMethod>" + n + "</t:SupportedEAPMethod>"; });
-    return inBody(
-        "<r:GetCapabilitiesResponse><r:Capabilities><t:Device><t:System>" + versions
-        + "</t:System><t:IO><t:Extension><t:Auxiliary>true</t:Auxiliary>" + commands
-        + "</t:Extension></t:IO><t:Security><t:Extension><t:Extension>" + methods
-        + "</t:Extension></t:Extension></t:Security></t:Device></r:Capabilities></r:GetCapabilitiesResponse>");
+    const auto system = [](const auto &n) { return element("t:SupportedVersions", element("t:Major", n)); };
+    const auto io = [](const auto &n) { return element("t:AuxiliaryCommands", n); };
+    const auto security = [](const auto &n) { return element("t:SupportedEAPMethod", n); };
+    const QByteArray device =
+        element("t:System", numbered(count, system))
+        + element("t:IO", element("t:Extension", "<t:Auxiliary>true</t:Auxiliary>" + numbered(count, io)))
+        + element("t:Security", element("t:Extension", element("t:Extension", numbered(count, security))));
+    return inBody(element("r:GetCapabilitiesResponse", element("r:Capabilities", element("t:Device", device))));
 }
 
 bool hasCapabilities(const QByteArray &reply, qsizetype count)
