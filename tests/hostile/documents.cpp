@@ -6,6 +6,7 @@
 #include <vorn/onvif/faults.h>
 #include <vorn/onvif/network.h>
 #include <vorn/onvif/profiles.h>
+#include <vorn/onvif/relays.h>
 #include <vorn/onvif/scopes.h>
 
 #include <QtCore/QString>
@@ -55,6 +56,11 @@ QByteArray inUtf16(const QByteArray &reply)
 QByteArray inBody(const QByteArray &content)
 {
     return "<s:Envelope><s:Body>" + content + "</s:Body></s:Envelope>";
+}
+
+QByteArray element(const QByteArray &name, const QByteArray &content)
+{
+    return "<" + name + ">" + content + "</" + name + ">";
 }
 
 // For bytes that cannot be parsed.
@@ -120,6 +126,19 @@ bool hasSiblings(const QByteArray &reply, qsizetype count)
 QByteArray siblingsInUtf16(qsizetype count)
 {
     return inUtf16(siblings(count));
+}
+
+/// What takes the most memory for its bytes: a node with one attribute.
+QByteArray siblingsWithAnAttribute(qsizetype count)
+{
+    return profiles("<r:Profiles token='1'>" + QByteArray("<a b=''/>").repeated(count) + "</r:Profiles>");
+}
+
+bool hasSiblingsWithAnAttribute(const QByteArray &reply, qsizetype count)
+{
+    const vorn::XmlResponseNode node = vorn::XmlResponse(reply, profilesPath).get(u"/Profiles"_s);
+    return node.children.size() == count && node.children.last().element.hasAttribute(u"b"_s)
+           && hasProfile(reply, u"1");
 }
 
 QByteArray attributes(qsizetype count)
@@ -406,21 +425,93 @@ bool hasManyProfiles(const QByteArray &reply, qsizetype count)
            && isNumbered(profiles, count, [](const auto &profile) { return profile.videoEncoder.token; });
 }
 
+/// The records that take the most memory for their bytes.
+QByteArray emptyProfiles(qsizetype count)
+{
+    return profiles(QByteArray("<Profiles/>").repeated(count));
+}
+
+QByteArray emptyProfilesWithAnAttribute(qsizetype count)
+{
+    return profiles(QByteArray("<Profiles b=''/>").repeated(count));
+}
+
+bool hasEmptyProfiles(const QByteArray &reply, qsizetype count)
+{
+    const vorn::OnvifProfileVector profiles(reply, profilesPath);
+    return profiles.size() == count && profiles.last().token.isEmpty();
+}
+
+/// Only the first counts.
+QByteArray singleProfiles(qsizetype count)
+{
+    return inBody(element("r:GetProfileResponse", numbered(count, [](const auto &n) {
+                              return "<r:Profile token='" + n + "'>" + element("t:Name", n) + "</r:Profile>";
+                          })));
+}
+
+bool hasFirstProfile(const QByteArray &reply, qsizetype)
+{
+    const vorn::OnvifProfile profile(reply, u"/Envelope/Body/GetProfileResponse"_s);
+    return profile.token == QLatin1String(number(0)) && profile.name == profile.token;
+}
+
+/// An answer to each request for configurations, as all have the same form.
+QByteArray configurationsIn(const QByteArray &response, qsizetype count)
+{
+    return element("r:" + response, numbered(count, [](const auto &n) {
+                       return "<r:Configurations token='" + n + "'/><r:PTZConfiguration token='" + n + "'/>";
+                   }));
+}
+
 const auto configurationsPath = u"/Envelope/Body/GetConfigurationsResponse"_s;
 
-/// The lists of configurations are all read from elements of this name.
 QByteArray configurations(qsizetype count)
 {
-    return inBody("<r:GetConfigurationsResponse>"
-                  + numbered(count, [](const auto &n) { return "<r:Configurations token='" + n + "'/>"; })
-                  + "</r:GetConfigurationsResponse>");
+    return inBody(configurationsIn("GetConfigurationsResponse", count));
+}
+
+template <typename List>
+bool hasTokens(const List &list, qsizetype count)
+{
+    return isNumbered(list, count, [](const auto &configuration) { return configuration.token; });
 }
 
 bool hasConfigurations(const QByteArray &reply, qsizetype count)
 {
-    const auto token = [](const auto &configuration) { return configuration.token; };
-    return isNumbered(vorn::OnvifVideoSourceConfigurationVector(reply, configurationsPath), count, token)
-           && isNumbered(vorn::OnvifAudioOutputConfigurationVector(reply, configurationsPath), count, token);
+    const auto isRead = [count](const auto &list) { return hasTokens(list, count); };
+    return isRead(vorn::OnvifVideoSourceConfigurationVector(reply, configurationsPath))
+           && isRead(vorn::OnvifVideoEncoderConfigurationVector(reply, configurationsPath))
+           && isRead(vorn::OnvifAudioSourceConfigurationVector(reply, configurationsPath))
+           && isRead(vorn::OnvifAudioOutputConfigurationVector(reply, configurationsPath))
+           && isRead(vorn::OnvifAudioEncoderConfigurationVector(reply, configurationsPath))
+           && isRead(vorn::OnvifVideoAnalyticsConfigurationVector(reply, configurationsPath))
+           && isRead(vorn::OnvifPtzConfigurationVector(reply, configurationsPath))
+           && vorn::OnvifAudioDecoderConfigurationVector(reply, configurationsPath).size() == count; // has no tokens
+}
+
+/// All answers in one.
+QByteArray compatibleConfigurations(qsizetype count)
+{
+    QByteArray responses;
+    for (const char *kind : {"VideoSource", "VideoEncoder", "AudioSource", "AudioOutput", "AudioEncoder",
+                             "AudioDecoder", "VideoAnalytics", "Metadata", ""}) // none for PTZ
+        responses += configurationsIn("GetCompatible" + QByteArray(kind) + "ConfigurationsResponse", count);
+    return inBody(responses);
+}
+
+bool hasCompatibleConfigurations(const QByteArray &reply, qsizetype count)
+{
+    const auto isRead = [count](const auto &list) { return hasTokens(list, count); };
+    return isRead(vorn::OnvifCompatibleVideoSourceConfigurationVector(reply))
+           && isRead(vorn::OnvifCompatibleVideoEncoderConfigurationVector(reply))
+           && isRead(vorn::OnvifCompatibleAudioSourceConfigurationVector(reply))
+           && isRead(vorn::OnvifCompatibleAudioOutputConfigurationVector(reply))
+           && isRead(vorn::OnvifCompatibleAudioEncoderConfigurationVector(reply))
+           && isRead(vorn::OnvifCompatibleVideoAnalyticsConfigurationVector(reply))
+           && isRead(vorn::OnvifCompatibleMetadataConfigurationVector(reply))
+           && isRead(vorn::OnvifCompatiblePtzConfigurationVector(reply))
+           && vorn::OnvifCompatibleAudioDecoderConfigurationVector(reply).size() == count;
 }
 
 QByteArray rules(qsizetype count)
@@ -454,6 +545,57 @@ bool hasManualAddresses(const QByteArray &reply, qsizetype count)
                          [](const auto &address) { return address.address; });
 }
 
+QByteArray relays(qsizetype count)
+{
+    return inBody(element("r:GetRelayOutputsResponse", numbered(count, [](const auto &n) {
+                              return "<r:RelayOutputs token='" + n + "'>"
+                                     + element("t:Properties", element("t:DelayTime", n)) + "</r:RelayOutputs>";
+                          })));
+}
+
+bool hasRelays(const QByteArray &reply, qsizetype count)
+{
+    const vorn::OnvifRelayOutputVector relays(reply, u"/Envelope/Body/GetRelayOutputsResponse"_s);
+    return hasTokens(relays, count) && isNumbered(relays, count, [](const auto &relay) { return relay.delayTime; });
+}
+
+/// Only the first counts.
+QByteArray gateways(qsizetype count)
+{
+    const QByteArray addresses =
+        numbered(count, [](const auto &n) { return element("t:IPv4Address", n) + element("t:IPv6Address", n); });
+    return inBody(element("r:GetNetworkDefaultGatewayResponse", element("r:NetworkGateway", addresses)));
+}
+
+bool hasFirstGateway(const QByteArray &reply, qsizetype)
+{
+    const vorn::OnvifNetworkGateway gateway(reply);
+    return gateway.ipv4Address == QLatin1String(number(0)) && gateway.ipv6Address == gateway.ipv4Address;
+}
+
+/// Each kind of capability that a device may have many of.
+QByteArray capabilities(qsizetype count)
+{
+    const auto system = [](const auto &n) { return element("t:SupportedVersions", element("t:Major", n)); };
+    const auto io = [](const auto &n) { return element("t:AuxiliaryCommands", n); };
+    const auto security = [](const auto &n) { return element("t:SupportedEAPMethod", n); };
+    const QByteArray device =
+        element("t:System", numbered(count, system))
+        + element("t:IO", element("t:Extension", "<t:Auxiliary>true</t:Auxiliary>" + numbered(count, io)))
+        + element("t:Security", element("t:Extension", element("t:Extension", numbered(count, security))));
+    return inBody(element("r:GetCapabilitiesResponse", element("r:Capabilities", element("t:Device", device))));
+}
+
+bool hasCapabilities(const QByteArray &reply, qsizetype count)
+{
+    const vorn::OnvifCapabilities capabilities(reply);
+    const auto text = [](unsigned int value) { return QString::fromLatin1(number(value)); };
+    return isNumbered(capabilities.device.system.supportedVersions, count,
+                      [text](const auto &version) { return text(version.major); })
+           && isNumbered(capabilities.device.io.auxiliaryCommands, count, [](const auto &command) { return command; })
+           && isNumbered(capabilities.device.security.supportedEapMethods, count, text);
+}
+
 // For faults.
 
 /// The code is told by what stands behind its last colon, and the reason by what it mentions.
@@ -479,6 +621,7 @@ const std::vector<Document> &documents()
         {"levels in UTF-16", 1'000'000, levelsInUtf16, isRefusedInUtf16},
         {"open brackets", 10'000'000, openBrackets, isRefused},
         {"siblings", 1'000'000, siblings, hasSiblings},
+        {"siblings with an attribute", 100'000, siblingsWithAnAttribute, hasSiblingsWithAnAttribute},
         {"siblings in UTF-16", 1'000'000, siblingsInUtf16, hasSiblings},
         {"attributes", 1'000'000, attributes, hasAttributes},
         {"repeated attributes", 1'000'000, repeatedAttributes, hasFirstAttribute},
@@ -504,9 +647,16 @@ const std::vector<Document> &documents()
         {"dots in an address", 1'000'000, dotsInAnAddress, hasZeros},
         {"discovery scopes", 100'000, discoveryScopes, hasDiscoveryScopes},
         {"profiles", 10'000, manyProfiles, hasManyProfiles},
+        {"empty profiles", 100'000, emptyProfiles, hasEmptyProfiles},
+        {"empty profiles with an attribute", 100'000, emptyProfilesWithAnAttribute, hasEmptyProfiles},
+        {"answers of one profile", 100'000, singleProfiles, hasFirstProfile},
         {"configurations", 10'000, configurations, hasConfigurations},
+        {"compatible configurations", 10'000, compatibleConfigurations, hasCompatibleConfigurations},
         {"rules", 100'000, rules, hasRules},
         {"manual addresses", 100'000, manualAddresses, hasManualAddresses},
+        {"relays", 100'000, relays, hasRelays},
+        {"gateways", 100'000, gateways, hasFirstGateway},
+        {"capabilities", 100'000, capabilities, hasCapabilities},
         {"colons in a fault", 1'000'000, colonsInAFault, isHttpFault},
     };
     return all;

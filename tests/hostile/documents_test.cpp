@@ -109,6 +109,15 @@ TEST_P(HostileDocument, isReadByAllRecordsInProportionToItsSize)
     expectProportion([&] { hostile::readAll(small); }, [&] { hostile::readAll(large); });
 }
 
+// For the bound that SECURITY.md states. What every reply takes, and what is made only once, has a bound of its own.
+TEST_P(HostileDocument, takesNoMoreThanThreeHundredTimesItsSize)
+{
+    const QByteArray reply = GetParam().make(GetParam().count / scale / 10);
+    const std::size_t most = 300 * static_cast<std::size_t>(reply.size()) + 64 * 1024;
+    for (const hostile::Reader &reader : hostile::readers())
+        EXPECT_LE(hostile::costOf([&] { reader.read(reply); }).peakBytes, most) << reader.name;
+}
+
 TEST_P(HostileDocument, isReadOnTheStackOfASmallThread)
 {
     const qsizetype count = GetParam().count / 1000;

@@ -14,6 +14,7 @@
 #include <linux/seccomp.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <thread>
 #include <unistd.h>
@@ -21,18 +22,21 @@
 
 namespace {
 
-/// From here on the kernel kills the process with SIGSYS when it opens, connects, writes or starts anything.
+/// From here on the kernel kills the process with SIGSYS when it looks for, opens, connects, writes or starts anything.
 void isolate()
 {
     std::vector<sock_filter> program{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
     for (const int call : {
 #ifdef SYS_open // newer processors have the others only
              SYS_open,
+             SYS_stat,
              SYS_creat,
              SYS_fork,
              SYS_vfork,
 #endif
              SYS_openat,
+             SYS_newfstatat,
+             SYS_statx,
              SYS_socket,
              SYS_connect,
              SYS_sendto,
@@ -73,6 +77,7 @@ class IsolationDeathTest : public testing::Test
     {
         if (test::sanitized)
             GTEST_SKIP() << "The sanitizers write to pipes of their own.";
+        qunsetenv("ICU_DATA"); // ICU looks in this folder for encodings that it does not know
     }
 };
 
@@ -81,6 +86,11 @@ TEST_F(IsolationDeathTest, endsWhatOpensConnectsPrintsOrStartsAnything)
     const testing::KilledBySignal killed(SIGSYS);
     const auto open = [] { [[maybe_unused]] std::FILE *const file = std::fopen("/dev/null", "r"); };
     EXPECT_EXIT(runIsolated(open), killed, "");
+    EXPECT_EXIT(runIsolated([] {
+                    struct stat status;
+                    (void)stat("/dev/null", &status);
+                }),
+                killed, "");
     EXPECT_EXIT(runIsolated([] { (void)socket(AF_INET, SOCK_STREAM, 0); }), killed, "");
     EXPECT_EXIT(runIsolated([] { std::printf("x"); }), killed, "");
     EXPECT_EXIT(runIsolated([] { qWarning("x"); }), killed, "");

@@ -14,37 +14,52 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-void query(const QByteArray &reply)
+/// A response with nodes for all that it holds.
+struct Queried
+{
+    vorn::XmlResponse response;
+    vorn::XmlResponseNode node;
+};
+
+std::shared_ptr<const void> query(const QByteArray &reply)
 {
     const QString path = u"/Envelope"_s;
-    vorn::XmlResponse response(reply, QString());
-    const vorn::XmlResponseNode node = response.get(path);
+    auto queried = std::make_shared<Queried>(Queried{vorn::XmlResponse(reply, QString()), {}});
+    vorn::XmlResponse &response = queried->response;
+    (void)response.getAll(path); // these nodes go before the others come
+    vorn::XmlResponseNode &node = queried->node;
+    node = response.get(path);
     (void)node.element.text();
     (void)response.getText(node, path);
     (void)response.getText(path);
     (void)response.getUInt(path);
     (void)response.getBool(path);
     (void)response.getAttribute(u"token"_s, path);
+    return queried;
 }
 
-void readFault(const QByteArray &reply)
+std::shared_ptr<const void> readFault(const QByteArray &reply)
 {
-    (void)vorn::OnvifFault(reply, "DeleteUsers", 1).toString();
     (void)vorn::OnvifFault(reply, vorn::OnvifFault::Sender, vorn::OnvifFault::NoSubcode, vorn::OnvifFault::NoSpecific,
                            1)
         .toString();
+    auto fault = std::make_shared<vorn::OnvifFault>(reply, "DeleteUsers", 1);
+    (void)fault->toString();
+    return fault;
 }
 
 template <typename Record>
 Reader reader(const char *name)
 {
-    return {name, [](const QByteArray &reply) { (void)Record(reply); }};
+    return {name, [](const QByteArray &reply) { return std::make_shared<Record>(reply); }};
 }
 
 template <typename Record>
 Reader reader(const char *name, const char *response)
 {
-    return {name, [response](const QByteArray &reply) { (void)Record(reply, "/Envelope/Body/"_L1 + response); }};
+    return {name, [response](const QByteArray &reply) {
+                return std::make_shared<Record>(reply, "/Envelope/Body/"_L1 + response);
+            }};
 }
 
 } // namespace
@@ -64,7 +79,7 @@ const std::vector<Reader> &readers()
         reader<OnvifRelayOutputVector>("OnvifRelayOutputVector", "GetRelayOutputsResponse"),
         reader<OnvifProfile>("OnvifProfile", "GetProfileResponse"),
         reader<OnvifProfileVector>("OnvifProfileVector", "GetProfilesResponse"),
-        // One answer for all of these, as each looks for its elements below the path that it is given.
+        // One answer for all of these, which holds what each looks for.
         reader<OnvifVideoSourceConfigurationVector>("OnvifVideoSourceConfigurationVector", "GetConfigurationsResponse"),
         reader<OnvifVideoEncoderConfigurationVector>("OnvifVideoEncoderConfigurationVector",
                                                      "GetConfigurationsResponse"),
@@ -93,7 +108,7 @@ const std::vector<Reader> &readers()
 void readAll(const QByteArray &reply)
 {
     for (const Reader &reader : readers())
-        reader.read(reply);
+        (void)reader.read(reply);
 }
 
 } // namespace hostile

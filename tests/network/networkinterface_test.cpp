@@ -391,6 +391,15 @@ TEST(OnvifNetworkInterface, addressesAreReadBelowConfigOnly)
     expectDefaults(interfaceWith("<IPv6><Manual/><LinkLocal/><FromDHCP/><FromRA/><DHCP>Off</DHCP></IPv6>").ipv6);
 }
 
+TEST(OnvifNetworkInterface, printsWhatItReadWithoutEscapingIt)
+{
+    const OnvifNetworkInterface record =
+        interfaceWith("<Info><Name>x&lt;/tds:InterfaceToken&gt;&lt;evil/&gt;</Name></Info>"
+                      "<IPv4><Config><Manual><Address>&lt;&amp;&gt;</Address></Manual></Config></IPv4>");
+    EXPECT_TRUE(record.toString().startsWith("<tds:InterfaceToken>x</tds:InterfaceToken><evil/></tds:InterfaceToken>"));
+    EXPECT_TRUE(record.toString().contains("<tt:Address><&></tt:Address>"));
+}
+
 TEST(OnvifNetworkInterface, doesNotReadBackWhatItPrints)
 {
     OnvifNetworkInterface record;

@@ -170,6 +170,16 @@ TEST(XmlResponseBytes, illFormedUtf8BecomesAReplacementCharacterWhereItStands)
     EXPECT_TRUE(response.xml().contains(QStringLiteral(u"a\uFFFDz")));
 }
 
+TEST(XmlResponseBytes, loneSurrogateOfUtf16IsReadAsAQuestionMark)
+{
+    for (const QChar surrogate : {QChar(0xD800), QChar(0xDC00)}) {
+        const QString text = QStringLiteral("<a>x") + surrogate + QStringLiteral("y</a>");
+        XmlResponse response(QByteArray(reinterpret_cast<const char *>(text.utf16()), 2 * text.size()), "");
+        EXPECT_EQ(response.getText("/a"), "x?y");
+        EXPECT_EQ(response.xml(), text);
+    }
+}
+
 TEST(XmlResponseBytes, loneContinuationByteIsIllFormed)
 {
     XmlResponse response("<a>\x80</a>", "");
