@@ -4,8 +4,10 @@
 
 #include <pugixml.hpp>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <random>
 #include <sstream>
 #include <string>
