@@ -15,7 +15,7 @@ namespace client {
 
 /// A body that is longer is not read to its end: none of an honest device comes near. The head of a reply, which Qt
 /// reads by itself, is limited by the time alone.
-inline constexpr qsizetype maximumReplySize = qsizetype(4) * 1024 * 1024;
+inline constexpr qsizetype maximumReplySize = qsizetype(1024) * 1024;
 
 /// What one request over HTTP brought.
 struct HttpReply

@@ -47,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"slow", "Failure when receiving data from the peer. (no complete reply within 0.5 s)", "0.5"},
         Case{"dropped", "Empty reply from Camera (the connection ended before a reply over HTTP came)"},
         Case{"truncated", "Transferred a partial file. (the connection ended in the middle of the reply)"},
-        Case{"endless", "Failure when receiving data from the peer. (the reply is longer than 4 MiB)"},
+        Case{"endless", "Failure when receiving data from the peer. (the reply is longer than 1 MiB)"},
         Case{"endless-head", "Failure when receiving data from the peer. (no complete reply within 0.5 s)", "0.5"},
         Case{"garbage", "Empty reply from Camera (the connection ended before a reply over HTTP came)"},
         Case{"empty", "Empty reply from Camera"}, Case{"json", "The device gave no answer that can be read."},
@@ -81,16 +81,16 @@ TEST(Failure, ofAFloodedHeadIsNotWaitedForAnyLonger)
     EXPECT_LT(fastest, 5000);
 }
 
-TEST(Failure, isAReplyOfMoreThanFourMebibytes)
+TEST(Failure, isAReplyOfMoreThanAMebibyte)
 {
-    const auto errorsFor = [](int mebibytes) {
-        const ReplyFolder folder("GetDeviceInformation", QByteArray(qsizetype(mebibytes) * 1024 * 1024, ' '));
+    const auto errorsFor = [](int kibibytes) {
+        const ReplyFolder folder("GetDeviceInformation", QByteArray(qsizetype(kibibytes) * 1024, ' '));
         const SimulatedDevice device(
             {samples("short-prefixes"), "--answer", "GetDeviceInformation=" + folder.fileName()});
         return report(device, {"--address", "{address}", "--timeout", "60"}).errors;
     };
-    EXPECT_EQ(errorsFor(3), "");
-    EXPECT_TRUE(errorsFor(5).contains("(the reply is longer than 4 MiB)\n"));
+    EXPECT_EQ(errorsFor(800), "");
+    EXPECT_TRUE(errorsFor(1200).contains("(the reply is longer than 1 MiB)\n"));
 }
 
 TEST(Failure, ofAHostThatIsNotKnown)
