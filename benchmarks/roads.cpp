@@ -102,7 +102,8 @@ bool Roads::print(std::ostream &output, const Costs &times, const Costs &seedles
         const bool over = taken > row.limit;
         const auto known = committed.find(row.tasks.library);
         const bool wasOver = known != committed.end() && known->second > row.limit;
-        good = good && (!over || wasOver);
+        const bool mayBeHeap = taken <= 1.02 * row.limit; // whose state moves the counts of small replies
+        good = good && (!over || wasOver || mayBeHeap);
         output << "| " << row.record << " | " << row.reply << " | " << row.bytes << std::setprecision(1) << " | "
                << times.at(row.tasks.library) << std::setprecision(2) << " | " << multiple(times, row.tasks.library)
                << " | " << multiple(seedless, row.tasks.library) << std::setprecision(3) << " | " << taken
