@@ -93,7 +93,7 @@ void printSizes(std::ostream &output)
         const RoadTasks names = roadTasks("profiles");
         const Costs times = timesOf(tasksFor(names, profiles, reply));
         output << reply.size();
-        for (const std::string &task : {names.library, names.setContent, names.byHand, names.stream, names.parse})
+        for (const std::string &task : {names.record, names.setContent, names.byHand, names.stream, names.parse})
             output << '\t' << times.at(task);
         output << '\n';
     }

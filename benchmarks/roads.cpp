@@ -55,7 +55,7 @@ std::vector<Task> tasksFor(const RoadTasks &names, const Kind &kind, const QByte
     const auto &read = kind.read;
     const auto &byHand = kind.byHand;
     return {
-        {names.library, [=] { benchmark::DoNotOptimize(read(reply)); }},
+        {names.record, [=] { benchmark::DoNotOptimize(read(reply)); }},
         {names.setContent, [=] { setContent(reply); }},
         {names.byHand, [=] { readByHand(reply, byHand); }},
         {names.stream, [=] { stream(reply); }},
@@ -98,15 +98,15 @@ bool Roads::print(std::ostream &output, const Costs &times, const Costs &seedles
         const auto multiple = [&row](const Costs &costs, const std::string &task) {
             return costs.at(task) / costs.at(row.tasks.setContent);
         };
-        const double taken = multiple(instructions, row.tasks.library);
+        const double taken = multiple(instructions, row.tasks.record);
         const bool over = taken > row.limit;
-        const auto known = committed.find(row.tasks.library);
+        const auto known = committed.find(row.tasks.record);
         const bool wasOver = known != committed.end() && known->second > row.limit;
         const bool mayBeHeap = taken <= 1.02 * row.limit; // whose state moves the counts of small replies
         good = good && (!over || wasOver || mayBeHeap);
         output << "| " << row.record << " | " << row.reply << " | " << row.bytes << std::setprecision(1) << " | "
-               << times.at(row.tasks.library) << std::setprecision(2) << " | " << multiple(times, row.tasks.library)
-               << " | " << multiple(seedless, row.tasks.library) << std::setprecision(3) << " | " << taken
+               << times.at(row.tasks.record) << std::setprecision(2) << " | " << multiple(times, row.tasks.record)
+               << " | " << multiple(seedless, row.tasks.record) << std::setprecision(3) << " | " << taken
                << std::setprecision(2) << " | " << row.limit << (over ? " (over)" : "");
         for (const std::string &task : {row.tasks.byHand, row.tasks.stream, row.tasks.parse})
             output << " | " << multiple(times, task) << " | " << multiple(instructions, task);
@@ -120,7 +120,7 @@ std::vector<Task> Roads::guardedTasks() const
     std::vector<Task> guarded;
     for (const Task &task : m_tasks) {
         const auto isGuarded = [&task](const Row &row) {
-            return task.name == row.tasks.library || task.name == row.tasks.setContent;
+            return task.name == row.tasks.record || task.name == row.tasks.setContent;
         };
         if (std::any_of(m_rows.begin(), m_rows.end(), isGuarded))
             guarded.push_back(task);
@@ -132,7 +132,7 @@ std::map<std::string, double> Roads::ratios(const Costs &instructions) const
 {
     std::map<std::string, double> ratios;
     for (const Row &row : m_rows)
-        ratios[row.tasks.library] = instructions.at(row.tasks.library) / instructions.at(row.tasks.setContent);
+        ratios[row.tasks.record] = instructions.at(row.tasks.record) / instructions.at(row.tasks.setContent);
     return ratios;
 }
 

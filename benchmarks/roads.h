@@ -15,7 +15,7 @@ namespace bench {
 /// The names of what is done with one reply.
 struct RoadTasks
 {
-    std::string library;
+    std::string record;
     std::string setContent; ///< `QDomDocument::setContent`: the yardstick
     std::string byHand;     ///< the same, and then reading the values out of the document
     std::string stream;     ///< `QXmlStreamReader` to the end
