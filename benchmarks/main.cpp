@@ -63,7 +63,7 @@ bench::Costs seedlessTimesOf(const std::vector<bench::Task> &tasks)
 bool printRoads(const QStringList &folders)
 {
     const bench::Roads roads(folders);
-    const std::vector<bench::Task> tasks = roads.tasks();
+    const std::vector<bench::Task> &tasks = roads.tasks();
     const bench::Costs instructions = countedInstructions(tasks);
     return roads.print(std::cout, bench::timesOf(tasks), seedlessTimesOf(tasks), instructions,
                        bench::readRatios(QStringLiteral(COMMITTED_RATIOS)));
