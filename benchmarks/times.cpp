@@ -5,7 +5,7 @@
 namespace bench {
 namespace {
 
-/// Keeps the median of each benchmark's repetitions.
+/// Keeps the median of each benchmark's repetitions, or what there is where none are asked for.
 class MedianReporter : public benchmark::BenchmarkReporter
 {
 public:
@@ -14,7 +14,7 @@ public:
     void ReportRuns(const std::vector<Run> &runs) override
     {
         for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
+            if (run.repetitions == 1 || run.aggregate_name == "median")
                 medians[run.run_name.function_name] = run.GetAdjustedCPUTime() / 1000;
         }
     }

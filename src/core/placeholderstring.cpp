@@ -1,6 +1,9 @@
 #include <vorn/onvif/placeholderstring.h>
 
+#include <algorithm>
+#include <locale>
 #include <sstream>
+#include <string>
 
 namespace vorn {
 namespace {
@@ -11,6 +14,14 @@ std::string streamed(Value value)
     std::stringstream stream;
     stream << value;
     return stream.str();
+}
+
+/// As streamed(). Without a locale of its own a program has the classic one, in which a stream writes what
+/// std::to_string() makes at a small part of the cost.
+template <typename Integer>
+std::string streamedInteger(Integer value)
+{
+    return std::locale() == std::locale::classic() ? std::to_string(value) : streamed(value);
 }
 
 } // namespace
@@ -41,32 +52,32 @@ PlaceHolderString &PlaceHolderString::arg(const QString &value)
 
 PlaceHolderString &PlaceHolderString::arg(short value)
 {
-    return replace(streamed(value));
+    return replace(streamedInteger(value));
 }
 
 PlaceHolderString &PlaceHolderString::arg(unsigned short value)
 {
-    return replace(streamed(value));
+    return replace(streamedInteger(value));
 }
 
 PlaceHolderString &PlaceHolderString::arg(int value)
 {
-    return replace(streamed(value));
+    return replace(streamedInteger(value));
 }
 
 PlaceHolderString &PlaceHolderString::arg(unsigned int value)
 {
-    return replace(streamed(value));
+    return replace(streamedInteger(value));
 }
 
 PlaceHolderString &PlaceHolderString::arg(long value)
 {
-    return replace(streamed(value));
+    return replace(streamedInteger(value));
 }
 
 PlaceHolderString &PlaceHolderString::arg(unsigned long value)
 {
-    return replace(streamed(value));
+    return replace(streamedInteger(value));
 }
 
 PlaceHolderString &PlaceHolderString::arg(float value)
@@ -111,7 +122,9 @@ QString PlaceHolderString::qStr() const
 
 PlaceHolderString &PlaceHolderString::replace(const std::string &value)
 {
-    const std::size_t hit = m_private->text.find_first_of(m_private->placeHolder, m_private->position);
+    std::size_t hit = std::string::npos;
+    for (const char character : m_private->placeHolder) // as find_first_of(), which searches byte by byte
+        hit = std::min(hit, m_private->text.find(character, m_private->position));
     if (hit != std::string::npos) {
         m_private->text.replace(hit, m_private->placeHolder.size(), value);
         m_private->position = hit + value.size();

@@ -31,9 +31,10 @@ OnvifScope::OnvifScope(Type scopeType, const QString &scopeUri)
     : OnvifDataStructure(false)
     , type(scopeType)
     , uri(scopeUri)
-    , key(percentDecoded(part(uri, categoryPart)))
-    , value(percentDecoded(partsFrom(uri, valuePart)))
 {
+    const QStringView parts = partsFrom(uri, categoryPart);
+    key = percentDecoded(part(parts, 0));
+    value = percentDecoded(partsFrom(parts, valuePart - categoryPart));
 }
 
 OnvifScope::OnvifScope(Type scopeType, const QString &scopeKey, const QString &scopeValue)

@@ -3,6 +3,8 @@
 #include "xmlnames.h"
 #include "xmltext.h"
 
+#include <QtCore/QVarLengthArray>
+
 namespace vorn {
 
 NodeBuilder::NodeBuilder(QDomDocument &owner)
@@ -55,15 +57,19 @@ void NodeBuilder::setAttributes(QDomElement &element, pugi::xml_node source)
 
 void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
 {
+    const char *ownText = source.value();
+    if (isCharacterData(pugi::node_pcdata, ownText))
+        node.element.appendChild(m_owner.createTextNode(value(ownText)));
+
+    QVarLengthArray<pugi::xml_node, 16> content; // walked over twice, to know how much room the elements need
     qsizetype elementCount = 0;
-    for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling())
+    for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling()) {
+        content.append(child);
         elementCount += child.type() == pugi::node_element ? 1 : 0;
+    }
     if (elementCount > 0)
         node.children.reserve(elementCount);
-
-    if (isCharacterData(pugi::node_pcdata, source.value()))
-        node.element.appendChild(m_owner.createTextNode(value(source.value())));
-    for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling()) {
+    for (const pugi::xml_node &child : content) {
         if (child.type() == pugi::node_element) {
             XmlResponseNode &childNode = node.children.emplaceBack();
             fill(childNode, child);

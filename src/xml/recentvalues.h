@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QtCore/QVarLengthArray>
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
-#include <vector>
 
 namespace vorn {
 
@@ -25,8 +26,6 @@ public:
         for (std::size_t candidate = place; candidate < place + tries; ++candidate) {
             std::uint16_t &number = m_numbers[candidate % places];
             if (number == 0) {
-                if (m_entries.empty())
-                    m_entries.reserve(32); // most replies need no more
                 m_entries.push_back({text, make(text)});
                 number = static_cast<std::uint16_t>(m_entries.size());
                 return m_entries.back().value;
@@ -74,7 +73,7 @@ private:
     }
 
     std::array<std::uint16_t, places> m_numbers = {}; // of the entry at each place, from 1; 0 where there is none
-    std::vector<Entry> m_entries;
+    QVarLengthArray<Entry, 32> m_entries; // most replies need no more
 };
 
 } // namespace vorn

@@ -5,6 +5,15 @@
 #include <cstring>
 
 namespace vorn {
+namespace {
+
+/// Not inlined, as names hardly ever get here and would all pay for what it needs of the stack.
+Q_NEVER_INLINE bool equalsDecoded(const char *utf8, QStringView text)
+{
+    return toQString(utf8) == text;
+}
+
+} // namespace
 
 const char *localName(const char *qualifiedName)
 {
@@ -14,14 +23,14 @@ const char *localName(const char *qualifiedName)
 
 bool equals(const char *utf8, QStringView text)
 {
-    for (const QChar &character : text) {
-        if (character.unicode() >= 0x80)
-            return toQString(utf8) == QStringView(&character, text.end());
-        if (*utf8 == '\0' || *utf8 != static_cast<char>(character.unicode()))
-            return false;
-        ++utf8;
+    const char16_t *characters = text.utf16();
+    const qsizetype size = text.size();
+    for (qsizetype i = 0; i < size; ++i) {
+        const auto byte = static_cast<signed char>(utf8[i]);
+        if (characters[i] != char16_t(byte) || byte <= 0)
+            return characters[i] >= 0x80 && equalsDecoded(utf8 + i, text.sliced(i));
     }
-    return *utf8 == '\0';
+    return utf8[size] == '\0';
 }
 
 pugi::xml_node firstNamed(pugi::xml_node node, QStringView name)

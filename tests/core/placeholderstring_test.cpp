@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <locale>
+#include <string>
 #include <type_traits>
 
 using vorn::PlaceHolderString;
@@ -105,6 +107,26 @@ TEST(PlaceHolderStringArg, printsIntegersInDecimal)
     EXPECT_EQ(printed<unsigned int>(4294967295U), "4294967295");
     EXPECT_EQ(printed<long>(-2147483647L), "-2147483647");
     EXPECT_EQ(printed<unsigned long>(4294967295UL), "4294967295");
+}
+
+/// Numbers with an apostrophe before the last three digits.
+struct Grouped : std::numpunct<char>
+{
+    char do_thousands_sep() const override { return '\''; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+TEST(PlaceHolderStringArg, printsNumbersAsTheLocaleOfTheProgramSays)
+{
+    const std::locale before = std::locale::global(std::locale(std::locale::classic(), new Grouped));
+    const std::string integer = printed<int>(-7000);
+    const std::string integerOfLong = printed<unsigned long>(1234UL);
+    const std::string number = printed<double>(1234.5);
+    std::locale::global(before);
+    EXPECT_EQ(integer, "-7'000");
+    EXPECT_EQ(integerOfLong, "1'234");
+    EXPECT_EQ(number, "1'234.5");
+    EXPECT_EQ(printed<int>(-7000), "-7000");
 }
 
 TEST(PlaceHolderStringArg, printsNumbersWithSixDigits)
