@@ -112,6 +112,14 @@ QString textOf(pugi::xml_node element)
 
 unsigned int uintOf(pugi::xml_node element)
 {
+    if (!element.first_child()) { // nothing, or one piece of text, which nearly always is a few digits
+        const char *next = element.value();
+        unsigned int number = 0;
+        for (int digits = 0; digits < 9 && *next >= '0' && *next <= '9'; ++digits)
+            number = 10 * number + static_cast<unsigned int>(*next++ - '0');
+        if (*next == '\0')
+            return number;
+    }
     return TransientText(element).view().toUInt();
 }
 
