@@ -73,7 +73,7 @@ private:
     }
 
     std::array<std::uint16_t, places> m_numbers = {}; // of the entry at each place, from 1; 0 where there is none
-    QVarLengthArray<Entry, 32> m_entries; // most replies need no more
+    QVarLengthArray<Entry, 32> m_entries;             // most replies need no more
 };
 
 } // namespace vorn

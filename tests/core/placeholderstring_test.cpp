@@ -113,6 +113,7 @@ TEST(PlaceHolderStringArg, printsIntegersInDecimal)
 struct Grouped : std::numpunct<char>
 {
     char do_thousands_sep() const override { return '\''; }
+
     std::string do_grouping() const override { return "\3"; }
 };
 
