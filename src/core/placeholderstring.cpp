@@ -16,12 +16,21 @@ std::string streamed(Value value)
     return stream.str();
 }
 
-/// As streamed(). Without a locale of its own a program has the classic one, in which a stream writes what
-/// std::to_string() makes at a small part of the cost.
+/// Whether the locale of the program has the facet of the classic one. Locales are not asked whether they are equal, as
+/// their names decide that.
+template <typename Facet>
+bool hasClassic(const std::locale &locale)
+{
+    return &std::use_facet<Facet>(locale) == &std::use_facet<Facet>(std::locale::classic());
+}
+
+/// As streamed(), at a small part of the cost in a program that changes no locale.
 template <typename Integer>
 std::string streamedInteger(Integer value)
 {
-    return std::locale() == std::locale::classic() ? std::to_string(value) : streamed(value);
+    const std::locale locale;
+    const bool isPlain = hasClassic<std::num_put<char>>(locale) && hasClassic<std::numpunct<char>>(locale);
+    return isPlain ? std::to_string(value) : streamed(value);
 }
 
 } // namespace

@@ -130,6 +130,15 @@ TEST(PlaceHolderStringArg, printsNumbersAsTheLocaleOfTheProgramSays)
     EXPECT_EQ(printed<int>(-7000), "-7000");
 }
 
+TEST(PlaceHolderStringArg, aLocaleMayGroupDigitsAndYetBeCalledC)
+{
+    const std::locale grouped(std::locale::classic(), new Grouped);
+    const std::locale before = std::locale::global(std::locale::classic().combine<std::numpunct<char>>(grouped));
+    const std::string integer = printed<int>(-7000);
+    std::locale::global(before);
+    EXPECT_EQ(integer, "-7'000");
+}
+
 TEST(PlaceHolderStringArg, printsNumbersWithSixDigits)
 {
     EXPECT_EQ(printed<double>(3.5), "3.5");

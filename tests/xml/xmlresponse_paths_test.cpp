@@ -244,7 +244,7 @@ TEST(XmlResponsePath, namesThatStartBeyondAsciiMatch)
     EXPECT_EQ(response.getText(QStringLiteral(u"/\u00F6")), "2");
     EXPECT_EQ(response.getText(QStringLiteral(u"/\u0080")), "3") << "the first character beyond ASCII";
     EXPECT_FALSE(response.get(QStringLiteral(u"/\u00C3")).valid);
-    EXPECT_FALSE(response.get(QStringLiteral(u"/\uFFC3\uFFB6")).valid) << "whose lower bytes are those of U+00F6";
+    EXPECT_FALSE(response.get(QStringLiteral(u"/\uFFC3\uFFB6")).valid) << "whose lower bytes are the UTF-8 of U+00F6";
 }
 
 TEST(XmlResponsePath, aNulMatchesNoEndOfAName)
@@ -252,6 +252,7 @@ TEST(XmlResponsePath, aNulMatchesNoEndOfAName)
     XmlResponse response("<a><b>1</b></a>", "/a");
     EXPECT_FALSE(response.get(QString("/b") + QChar(0)).valid);
     EXPECT_FALSE(response.get(QString("/b") + QChar(0) + "b").valid);
+    EXPECT_FALSE(response.get(QString("/b") + QChar(0) + "1").valid) << "the text may stand behind the name in memory";
 }
 
 TEST(XmlResponsePath, firstOfSeveralMatchesIsTaken)
