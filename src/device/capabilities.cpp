@@ -1,3 +1,5 @@
+#include "xml/numbers.h"
+
 #include <vorn/onvif/device.h>
 
 namespace vorn {
@@ -91,7 +93,7 @@ OnvifCapabilities::OnvifCapabilities(const QByteArray &bytes)
     const QList<XmlResponseNode> methods =
         response.getAll(u"/Device/Security/Extension/Extension/SupportedEAPMethod"_s);
     for (const XmlResponseNode &method : methods)
-        device.security.supportedEapMethods.append(method.element.text().toUInt());
+        device.security.supportedEapMethods.append(toUInt(method.element.text()));
 
     read(events.xAddr, u"/Events/XAddr"_s);
     read(events.wsSubscriptionPolicySupport, u"/Events/WSSubscriptionPolicySupport"_s);

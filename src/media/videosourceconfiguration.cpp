@@ -1,6 +1,7 @@
 #include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "xml/numbers.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -11,7 +12,7 @@ using namespace Qt::StringLiterals;
 /// As QRect(x, y, width, height), but an edge beyond the range of int wraps around.
 static void readValue(const XmlResponseNode &node, QRect &bounds)
 {
-    const auto number = [&node](const QString &attribute) { return node.element.attribute(attribute).toInt(); };
+    const auto number = [&node](const QString &attribute) { return toInt(node.element.attribute(attribute)); };
     const auto lastOf = [](int first, int count) {
         return static_cast<int>(static_cast<unsigned int>(first) + static_cast<unsigned int>(count) - 1U);
     };

@@ -1,5 +1,7 @@
 #include "xmltext.h"
 
+#include "numbers.h"
+
 #include <QtCore/QByteArrayView>
 #include <QtCore/QStringDecoder>
 #include <QtCore/QVarLengthArray>
@@ -120,7 +122,7 @@ unsigned int uintOf(pugi::xml_node element)
         if (*next == '\0')
             return number;
     }
-    return TransientText(element).view().toUInt();
+    return toUInt(TransientText(element).view());
 }
 
 bool boolOf(pugi::xml_node element)
