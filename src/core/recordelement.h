@@ -1,5 +1,7 @@
 #pragma once
 
+#include "xml/numbers.h"
+
 #include <vorn/util/xmlresponse.h>
 
 #include <QtCore/QAnyStringView>
@@ -29,11 +31,11 @@ public:
 
     bool hasText(QLatin1String text) const { return m_response->getText(m_path) == text; }
 
-    int toInt() const { return m_response->getText(m_path).toInt(); }
+    int toInt() const { return vorn::toInt(m_response->getText(m_path)); }
 
     unsigned int toUInt() const { return m_response->getUInt(m_path); }
 
-    double toDouble() const { return m_response->getText(m_path).toDouble(); }
+    double toDouble() const { return vorn::toDouble(m_response->getText(m_path)); }
 
     bool toBool() const { return m_response->getBool(m_path); }
 
@@ -83,9 +85,9 @@ public:
 
     QString text() const;
     bool hasText(QLatin1String text) const;
-    int toInt() const;           ///< As `text().toInt()`.
-    unsigned int toUInt() const; ///< As `text().toUInt()`.
-    double toDouble() const;     ///< As `text().toDouble()`.
+    int toInt() const;           ///< text() as a number; 0 if it is none of the type.
+    unsigned int toUInt() const; ///< As above.
+    double toDouble() const;     ///< As above.
     bool toBool() const;         ///< As the queries: true for "true" and "1", with white space around it.
 
     /// Null if there is none.

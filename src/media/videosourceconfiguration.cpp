@@ -2,6 +2,7 @@
 #include "core/listrecord.h"
 #include "core/readchildren.h"
 #include "readconfigurations.h"
+#include "xml/numbers.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -12,7 +13,7 @@ using namespace Qt::StringLiterals;
 /// As QRect(x, y, width, height), but an edge beyond the range of int wraps around.
 static void readValue(const RecordElement &element, QRect &bounds)
 {
-    const auto number = [&element](const QString &attribute) { return element.attribute(attribute).toInt(); };
+    const auto number = [&element](const QString &attribute) { return toInt(element.attribute(attribute)); };
     const auto lastOf = [](int first, int count) {
         return static_cast<int>(static_cast<unsigned int>(first) + static_cast<unsigned int>(count) - 1U);
     };

@@ -1,4 +1,5 @@
 #include "nodebuilder.h"
+#include "numbers.h"
 #include "path.h"
 #include "xmldocument.h"
 #include "xmlnames.h"
@@ -116,7 +117,7 @@ unsigned int XmlResponse::getUInt(const QString &path)
 
 unsigned int XmlResponse::getUInt(const XmlResponseNode &node, const QString &path)
 {
-    return getText(node, path).toUInt();
+    return toUInt(getText(node, path));
 }
 
 bool XmlResponse::getBool(const QString &path)

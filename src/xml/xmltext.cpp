@@ -1,15 +1,14 @@
 #include "xmltext.h"
 
+#include "numbers.h"
 #include "xmlnames.h"
 
 #include <QtCore/QByteArrayView>
 #include <QtCore/QStringDecoder>
 #include <QtCore/QVarLengthArray>
 
-#include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <optional>
 
 namespace vorn {
 namespace {
@@ -58,27 +57,6 @@ void visitCharacterData(pugi::xml_node element, const Visitor &visit)
         else if (isCharacterData(child.type(), child.value()))
             visit(child.value());
     }
-}
-
-/// The number that \a text, which is part of \a element, spells with up to nine digits, as nearly all do; 0 for none.
-/// Nothing if it must be looked at more closely.
-std::optional<unsigned int> plainNumber(pugi::xml_node element, const char *text)
-{
-    if (element.first_child()) // text in more than one piece
-        return std::nullopt;
-    unsigned int number = 0;
-    for (int digits = 0; digits < 9 && *text >= '0' && *text <= '9'; ++digits)
-        number = 10 * number + static_cast<unsigned int>(*text++ - '0');
-    return *text == '\0' ? std::optional(number) : std::nullopt;
-}
-
-/// Whether \a text is made of digits, a point and a sign only. Then it is in the form of the C locale already, which
-/// takes ten times as long to bring it into as to convert it.
-bool isPlainDecimal(QByteArrayView text)
-{
-    const auto isPlain = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
-    const qsizetype sign = text.startsWith('-') ? 1 : 0;
-    return text.size() > sign && std::all_of(text.begin() + sign, text.end(), isPlain);
 }
 
 /// The text of an element for as long as it takes to look at it; on the stack, unless it is uncommonly long.
@@ -146,24 +124,17 @@ bool hasText(pugi::xml_node element, QAnyStringView text)
 
 unsigned int uintOf(pugi::xml_node element)
 {
-    if (const std::optional<unsigned int> number = plainNumber(element, element.value()))
-        return *number;
-    return TransientText(element).view().toUInt();
+    return element.first_child() ? toUInt(TransientText(element).view()) : toUInt(QByteArrayView(element.value()));
 }
 
 int intOf(pugi::xml_node element)
 {
-    const char *text = element.value();
-    const bool isNegative = *text == '-' && text[1] != '\0';
-    if (const std::optional<unsigned int> number = plainNumber(element, text + (isNegative ? 1 : 0)))
-        return isNegative ? -static_cast<int>(*number) : static_cast<int>(*number);
-    return TransientText(element).view().toInt();
+    return element.first_child() ? toInt(TransientText(element).view()) : toInt(QByteArrayView(element.value()));
 }
 
 double doubleOf(pugi::xml_node element)
 {
-    const QByteArrayView text(element.value());
-    return !element.first_child() && isPlainDecimal(text) ? text.toDouble() : TransientText(element).view().toDouble();
+    return element.first_child() ? toDouble(TransientText(element).view()) : toDouble(QByteArrayView(element.value()));
 }
 
 bool boolOf(pugi::xml_node element)

@@ -238,10 +238,11 @@ private:
 ///
 /// Tolerated are ill-formed UTF-8 (each bad sequence reads as U+FFFD), NUL characters (read as U+FFFD, ignored at the
 /// end of the reply), white space before the XML declaration, a repeated attribute (the first counts) and references
-/// to unknown entities (they stay as written); a reference to the character 0 ends its value. Entities that a DTD
-/// declares are never expanded, and nothing outside the bytes is ever opened. A byte order mark decides the encoding,
-/// or the zero bytes of UTF-16 and UTF-32, else the XML declaration; without any of these, or if the declaration cannot
-/// be right, the bytes are read as UTF-8.
+/// to unknown entities (they stay as written); a reference to 0, to a surrogate or beyond Unicode reads as U+FFFD, one
+/// to any other character as that, and control characters stay as they are. Entities that a DTD declares are never
+/// expanded, and nothing outside the bytes is ever opened. A byte order mark decides the encoding, or the zero bytes of
+/// UTF-16 and UTF-32, else the XML declaration; without any of these, or if the declaration cannot be right, the bytes
+/// are read as UTF-8. A surrogate of UTF-16 or UTF-32 that is none of a pair reads as a question mark.
 ///
 /// Copies share the parsed document, which never changes. Each object belongs to one thread at a time; copies of one
 /// object may be used on different threads at once.
