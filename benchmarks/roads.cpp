@@ -78,9 +78,7 @@ Roads::Roads(const QStringList &folders)
                 const RoadTasks names = roadTasks(name);
                 const std::vector<Task> tasks = tasksFor(names, kind, bytes);
                 m_tasks.insert(m_tasks.end(), tasks.begin(), tasks.end());
-                const Limits &limits = kind.limits;
-                m_rows.push_back(
-                    {kind.record, reply.name, bytes.size(), reply.isCompact ? limits.compact : limits.indented, names});
+                m_rows.push_back({kind.record, reply.name, bytes.size(), limitFor(kind.limits, bytes.size()), names});
             }
         }
     }
