@@ -229,6 +229,30 @@ std::vector<Kind> makeKinds()
                      [isGood, profiles](const QByteArray &reply) -> qsizetype {
                          return isGood(reply) == 1 ? profiles.read(reply) : 0;
                      }});
+    // What a program asks for itself: nodes, and values by their paths.
+    kinds.push_back({"XmlResponse::getAll of profiles",
+                     getProfiles,
+                     {0.42, 0.47},
+                     profiles.byHand,
+                     [](const QByteArray &reply) -> qsizetype {
+                         XmlResponse response(reply, QStringLiteral("/Envelope/Body/GetProfilesResponse"));
+                         return response.getAll(QStringLiteral("/Profiles")).size();
+                     }});
+    QStringList paths;
+    for (const std::string &value : capabilities)
+        paths.append(QLatin1Char('/') + QString::fromStdString(value));
+    kinds.push_back({"XmlResponse::getText of capabilities",
+                     QStringLiteral("GetCapabilities"),
+                     {0.14, 0.24},
+                     ByHand(responsePath("GetCapabilities") + "/Capabilities", capabilities),
+                     [paths](const QByteArray &reply) -> qsizetype {
+                         const QString root = QStringLiteral("/Envelope/Body/GetCapabilitiesResponse/Capabilities");
+                         XmlResponse response(reply, root);
+                         qsizetype size = 0;
+                         for (const QString &path : paths)
+                             size += response.getText(path).size();
+                         return size > 0 ? 1 : 0;
+                     }});
     return kinds;
 }
 
