@@ -1,4 +1,4 @@
-#include "core/foundtext.h"
+#include "core/queries.h"
 #include "uriparts.h"
 #include "xml/numbers.h"
 

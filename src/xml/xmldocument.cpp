@@ -46,14 +46,16 @@ class ReferenceResolver : public pugi::xml_tree_walker
     }
 };
 
-pugi::xml_node descend(pugi::xml_node node, QStringView path)
-{
-    while (node && !path.isEmpty())
-        node = firstNamed(node.first_child(), takeComponent(path));
-    return node;
-}
-
 } // namespace
+
+pugi::xml_node descend(pugi::xml_node node, QAnyStringView path)
+{
+    return path.visit([node](auto rest) mutable {
+        while (node && !rest.isEmpty())
+            node = firstNamed(node.first_child(), takeComponent(rest));
+        return node;
+    });
+}
 
 XmlDocument::XmlDocument(const QByteArray &bytes, const QString &root)
 {
@@ -80,7 +82,7 @@ XmlDocument::XmlDocument(const QByteArray &bytes, const QString &root)
         m_tree.reset();
 }
 
-pugi::xml_node XmlDocument::find(QStringView path) const
+pugi::xml_node XmlDocument::find(QAnyStringView path) const
 {
     const pugi::xml_node node = descend(m_root, path);
     return node.type() == pugi::node_element ? node : pugi::xml_node();
