@@ -95,6 +95,23 @@ TEST(XmlResponseEncodings, areReadAsDeclared)
     }
 }
 
+TEST(XmlResponseEncodings, haveTheCharactersOfTheirNewestEdition)
+{
+    if (!QStringDecoder("GB2312").isValid())
+        GTEST_SKIP() << "This Qt was built without ICU and knows few encodings.";
+    for (const char *name : {"GB18030", "gb18030", "windows-54936"}) {
+        XmlResponse response(
+            "<?xml version='1.0' encoding='" + QByteArray(name)
+                + "'?><a>\xA3\xA0|\xA6\xD9\xA6\xDA\xA6\xDB\xA6\xDC\xA6\xDD\xA6\xDE\xA6\xDF\xA6\xEC\xA6\xED"
+                  "\xA6\xF3|\xFE\x59\xFE\x61\xFE\x66\xFE\x67\xFE\x6D\xFE\x7E\xFE\x90\xFE\xA0|\xC9\xE3</a>",
+            "");
+        EXPECT_EQ(response.getText("/a"),
+                  QStringLiteral(u"\u3000|\uFE10\uFE12\uFE11\uFE13\uFE14\uFE15\uFE16\uFE17\uFE18\uFE19|"
+                                 u"\u9FB4\u9FB5\u9FB6\u9FB7\u9FB8\u9FB9\u9FBA\u9FBB|\u6444"))
+            << name;
+    }
+}
+
 TEST(XmlResponseEncodings, haveACharacterForAByteThatIsNoneOfTheirs)
 {
     if (!QStringDecoder("GB2312").isValid())
