@@ -36,10 +36,17 @@ Profiles readRecords(const QByteArray &reply)
     return vorn::OnvifProfileVector(reply, QStringLiteral("/Envelope/Body/GetProfilesResponse")).size();
 }
 
+/// Whether \a qualified is \a name, with or without a prefix.
+bool isCalled(std::string_view qualified, std::string_view name)
+{
+    return qualified.substr(qualified.find(':') + 1) == name; // without a prefix, npos + 1 is 0
+}
+
 #ifdef HAS_LIBXML2
+/// libxml2 leaves a prefix that is not declared in the name.
 bool isCalled(const xmlNode *node, const char *name)
 {
-    return node->type == XML_ELEMENT_NODE && xmlStrEqual(node->name, BAD_CAST name) != 0;
+    return node->type == XML_ELEMENT_NODE && isCalled(reinterpret_cast<const char *>(node->name), name);
 }
 
 Profiles readLibxml2(const QByteArray &reply)
@@ -76,12 +83,6 @@ Profiles readStream(const QByteArray &reply)
     return reader.hasError() ? Profiles() : profiles;
 }
 
-bool isCalled(const pugi::xml_node &node, std::string_view name)
-{
-    const std::string_view qualified = node.name();
-    return qualified.substr(qualified.find(':') + 1) == name; // without a prefix, the name starts at npos + 1: 0
-}
-
 Profiles readPugixml(const QByteArray &reply)
 {
     pugi::xml_document document;
@@ -89,9 +90,9 @@ Profiles readPugixml(const QByteArray &reply)
         return {};
     pugi::xml_node response = document;
     for (const char *name : pathToProfiles)
-        response = response.find_child([name](const pugi::xml_node &child) { return isCalled(child, name); });
+        response = response.find_child([name](const pugi::xml_node &child) { return isCalled(child.name(), name); });
     return std::count_if(response.begin(), response.end(),
-                         [](const pugi::xml_node &child) { return isCalled(child, profileName); });
+                         [](const pugi::xml_node &child) { return isCalled(child.name(), profileName); });
 }
 
 struct Peer
