@@ -14,12 +14,6 @@
 namespace bench {
 namespace {
 
-void setContent(const QByteArray &reply)
-{
-    QDomDocument document;
-    benchmark::DoNotOptimize(document.setContent(reply));
-}
-
 qsizetype readByHand(const QByteArray &reply, const ByHand &byHand)
 {
     QDomDocument document;
@@ -44,6 +38,12 @@ void parse(const QByteArray &reply)
 }
 
 } // namespace
+
+void setContent(const QByteArray &reply)
+{
+    QDomDocument document;
+    benchmark::DoNotOptimize(document.setContent(reply));
+}
 
 RoadTasks roadTasks(const std::string &name)
 {
