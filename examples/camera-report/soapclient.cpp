@@ -1,6 +1,7 @@
 #include "soapclient.h"
 
 #include <QtCore/QDateTime>
+#include <QtCore/QTimeZone>
 #include <QtCore/QUuid>
 #include <QtNetwork/QNetworkProxy>
 #include <QtNetwork/QNetworkRequest>
@@ -17,7 +18,7 @@ QDateTime timeIn(const QByteArray &bytes)
     const auto number = [&](const char *path) { return static_cast<int>(response.getUInt(path)); };
     const QDate date(number("/Date/Year"), number("/Date/Month"), number("/Date/Day"));
     const QTime time(number("/Time/Hour"), number("/Time/Minute"), number("/Time/Second"));
-    return {date, time, Qt::UTC};
+    return {date, time, QTimeZone::utc()};
 }
 
 /// What the library is given: the reply if it says something, else a document that stands for the failure.
