@@ -69,8 +69,9 @@ void Device::answer(QTcpSocket *socket, const HttpRequest &request)
     const QString action = actionOf(request.body);
     record(request, action);
     const bool isOpen = action == "GetSystemDateAndTime"; // ONVIF wants it without authentication
-    if (!isOpen && !m_guard.allows(request, now())) {
-        const QByteArray challenge = m_guard.challenge();
+    const Guard::Verdict verdict = isOpen ? Guard::Verdict::Allowed : m_guard.judge(request, now());
+    if (verdict != Guard::Verdict::Allowed) {
+        const QByteArray challenge = m_guard.challenge(verdict);
         const Reply fault = notAuthorized();
         const int status = challenge.isEmpty() ? fault.status : 401;
         return deliver(socket, httpReply(status, "application/soap+xml", fault.body, challenge));

@@ -30,6 +30,8 @@ struct Known
     QCommandLineOption auth{"auth", "Wants authentication: token, http or basic.", "KIND"};
     QCommandLineOption user{"user", "The user that is let in. Without it: operator.", "NAME", "operator"};
     QCommandLineOption password{"password", "The password. Without it: simulated.", "TEXT", "simulated"};
+    QCommandLineOption nonceUses{"nonce-uses", "After how many requests a nonce of Digest ends. Without it: 1000.",
+                                 "NUMBER", "1000"};
     QCommandLineOption clockAhead{"clock-ahead", "By how much the clock is ahead.", "SECONDS", "0"};
     QCommandLineOption listen{"listen", "The IPv4 address to listen at. Without it: 127.0.0.1.", "ADDRESS",
                               "127.0.0.1"};
@@ -41,8 +43,8 @@ struct Known
 
     QList<QCommandLineOption> inOrder() const
     {
-        return {help,   answer, trouble,   auth,    user,          password, clockAhead,
-                listen, port,   probePort, devices, keepAddresses, record};
+        return {help,       answer, trouble, auth,      user,    password,      nonceUses,
+                clockAhead, listen, port,    probePort, devices, keepAddresses, record};
     }
 };
 
@@ -81,6 +83,17 @@ QString readReplies(const QCommandLineParser &parser, const Known &known, Option
     return {};
 }
 
+/// Reads the number of \a option into \a value; false if it is none from \a smallest to \a largest.
+template <typename Number>
+bool readNumber(const QCommandLineParser &parser, const QCommandLineOption &option, qint64 smallest, qint64 largest,
+                Number &value)
+{
+    bool isNumber = false;
+    const qint64 number = parser.value(option).toLongLong(&isNumber);
+    value = static_cast<Number>(number);
+    return isNumber && number >= smallest && number <= largest;
+}
+
 QString readAuthentication(const QCommandLineParser &parser, const Known &known, Options &options)
 {
     const QHash<QString, Authentication> kinds = {{"", Authentication::None},
@@ -92,18 +105,9 @@ QString readAuthentication(const QCommandLineParser &parser, const Known &known,
     options.authentication = kinds.value(parser.value(known.auth));
     options.user = parser.value(known.user);
     options.password = parser.value(known.password);
+    if (!readNumber(parser, known.nonceUses, 1, 1000000, options.nonceUses))
+        return "--nonce-uses wants a number from 1 to 1000000.";
     return {};
-}
-
-/// Reads the number of \a option into \a value; false if it is none from \a smallest to \a largest.
-template <typename Number>
-bool readNumber(const QCommandLineParser &parser, const QCommandLineOption &option, qint64 smallest, qint64 largest,
-                Number &value)
-{
-    bool isNumber = false;
-    const qint64 number = parser.value(option).toLongLong(&isNumber);
-    value = static_cast<Number>(number);
-    return isNumber && number >= smallest && number <= largest;
 }
 
 QString readPlace(const QCommandLineParser &parser, const Known &known, Options &options)

@@ -29,6 +29,7 @@ struct Options
     Authentication authentication = Authentication::None;
     QString user;
     QString password;
+    int nonceUses = 0;     ///< how many requests a nonce of Digest is good for
     qint64 clockAhead = 0; ///< seconds by which the clock of the device is ahead of this machine's
     QHostAddress listen;
     quint16 port = 0;      ///< of the first device; 0: the system chooses for each
