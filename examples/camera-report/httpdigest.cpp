@@ -18,6 +18,7 @@ std::optional<DigestChallenge> challengeOf(const Parameters &parameters)
         challenge.hash = QCryptographicHash::Sha256;
     else if (!algorithm.isEmpty() && algorithm != "MD5")
         return std::nullopt;
+    challenge.stale = parameters["stale"].toLower() == "true";
     challenge.qop = parameters.contains("qop");
     for (const QByteArray &quality : parameters["qop"].split(',')) {
         if (!challenge.qop || quality.trimmed().toLower() == "auth")

@@ -9,9 +9,12 @@ namespace {
 const char *const description =
     R"(Simulates ONVIF devices that answer out of a folder: ACTION.xml is the reply to
 the request ACTION, and ProbeMatches.xml that to a probe. The addresses in
-XAddr and XAddrs become its own. A request without a file is answered with the
-fault ActionNotSupported; but GetSystemDateAndTime, SetNetworkInterfaces and
-probes are answered in any case. Nothing that a request sets is kept.
+XAddr and XAddrs become its own, and the time that of this machine. Requests for
+what a profile token stands for may have a file of their own, such as
+GetStreamUri.TOKEN.UDP.xml. A request without a file is answered with the fault
+ActionNotSupported; but GetSystemDateAndTime, GetStreamUri, GetSnapshotUri,
+SetNetworkInterfaces and probes are answered in any case. Nothing that a request
+sets is kept, and there is no video.
 
 When it is ready, it prints one line of JSON: the addresses of the devices,
 where it takes probes, and whether it takes those by multicast, too. SIGINT or
@@ -38,13 +41,14 @@ struct Known
     QCommandLineOption port{"port", "The port of the first device, and so on. Without it: any.", "NUMBER", "0"};
     QCommandLineOption probePort{"probe-port", "A port for probes that come without multicast.", "NUMBER", "0"};
     QCommandLineOption devices{"devices", "How many devices, from 1 to 1000.", "NUMBER", "1"};
+    QCommandLineOption tls{"tls", "Speaks HTTP over TLS only, with a certificate that it makes for itself."};
     QCommandLineOption keepAddresses{"keep-addresses", "Leaves the addresses in replies as they are."};
     QCommandLineOption record{"record", "Keeps each request in a file in FOLDER.", "FOLDER"};
 
     QList<QCommandLineOption> inOrder() const
     {
-        return {help,       answer, trouble, auth,      user,    password,      nonceUses,
-                clockAhead, listen, port,    probePort, devices, keepAddresses, record};
+        return {help,   answer, trouble,   auth,    user, password,      nonceUses, clockAhead,
+                listen, port,   probePort, devices, tls,  keepAddresses, record};
     }
 };
 
@@ -113,6 +117,7 @@ QString readAuthentication(const QCommandLineParser &parser, const Known &known,
 QString readPlace(const QCommandLineParser &parser, const Known &known, Options &options)
 {
     options.listen = QHostAddress(parser.value(known.listen));
+    options.tls = parser.isSet(known.tls);
     options.keepAddresses = parser.isSet(known.keepAddresses);
     options.recordFolder = parser.value(known.record);
     if (options.listen.protocol() != QHostAddress::IPv4Protocol || options.listen == QHostAddress::AnyIPv4)

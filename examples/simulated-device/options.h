@@ -35,6 +35,7 @@ struct Options
     quint16 port = 0;      ///< of the first device; 0: the system chooses for each
     quint16 probePort = 0; ///< for probes that are sent here alone; 0: the system chooses
     int devices = 1;
+    bool tls = false;           ///< whether they speak HTTP over TLS
     bool keepAddresses = false; ///< whether the addresses in replies stay as they are
     QString recordFolder;       ///< where each request is kept; empty: nowhere
 };

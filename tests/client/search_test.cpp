@@ -43,7 +43,9 @@ TEST(Search, listsWhoAnswers)
     const Result result = report(device, {"--probe-address", "{probe}", "--timeout", "3"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(result.output, device.filledIn("{address}: Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n"));
+    EXPECT_EQ(
+        result.output,
+        device.filledIn("{address}, https://192.168.7.20: Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n"));
 }
 
 TEST(Search, listsEachOfTwoHundredOnce)
@@ -84,7 +86,7 @@ TEST(Search, asksNobodyButWhoAnswered)
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.output, "10.1.2.3:8080: BULLET-4K (Video)\n");
     EXPECT_EQ(result.errors,
-              "camera-report: The camera that answered from 127.0.0.1 names only other addresses, so it is "
+              "camera-report: The camera that answered from 127.0.0.1 names no address of that host, so it is "
               "not asked: 10.1.2.3:8080.\n");
 }
 
@@ -93,7 +95,7 @@ TEST(Search, printsJson)
     const SimulatedDevice device({samples("many-namespaces")});
     const Result result = report(device, {"--probe-address", "{probe}", "--json", "--timeout", "3"});
     const QJsonObject expected{{"sender", "127.0.0.1"},
-                               {"addresses", QJsonArray{device.address()}},
+                               {"addresses", QJsonArray{device.address(), "https://192.168.7.20"}},
                                {"name", "Front Door"},
                                {"hardware", "DOME-360"},
                                {"types", QJsonArray{"Video", "PTZ", "Audio", "Analytics", "ProfileS"}}};

@@ -36,7 +36,7 @@ TEST(Stop, endsAReportThatWaits)
     for (const int signal : {SIGINT, SIGTERM}) {
         QProcess process;
         process.start(QStringLiteral(REPORT_PROGRAM), {"--address", device.address(), "--timeout", "3600"});
-        ASSERT_TRUE(waitForError(process, "for GetDeviceInformation"));
+        ASSERT_TRUE(waitForError(process, "for GetSystemDateAndTime"));
         ASSERT_EQ(kill(static_cast<pid_t>(process.processId()), signal), 0);
         const Result result = test::resultOf(process);
         EXPECT_EQ(result.exitCode, 130);
