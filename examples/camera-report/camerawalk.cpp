@@ -31,7 +31,7 @@ void CameraWalk::takeClock(const Answer &answer, const ClockReading &reading)
     else
         m_report.failures.append({answer.request.action, m_report.clock.notAnswered});
     keep(answer);
-    if (goesOnAfter(answer))
+    if (goesOnAfter(answer, false))
         next();
 }
 
@@ -51,11 +51,11 @@ void CameraWalk::take(const Question &question, const Answer &answer)
     const Questions more = question.take(answer, complaintAbout(answer));
     m_questions.insert(m_questions.begin(), more.begin(), more.end());
     keep(answer);
-    if (goesOnAfter(answer))
+    if (goesOnAfter(answer, m_withCredentials))
         next();
 }
 
-bool CameraWalk::goesOnAfter(const Answer &answer)
+bool CameraWalk::goesOnAfter(const Answer &answer, bool hadProof)
 {
     const TransportFailure failure = answer.http.failure;
     const bool isEntry =
@@ -64,7 +64,7 @@ bool CameraWalk::goesOnAfter(const Answer &answer)
     m_isReached = m_isReached || answer.http.status != 0;
     m_silences = answer.http.isSilence ? m_silences + 1 : 0;
     m_failures = answer.http.status != 0 ? 0 : m_failures + 1;
-    if (m_withCredentials && answer.isRefusal())
+    if (hadProof && answer.isRefusal())
         end("It was not asked, as the device has refused the user or the password.");
     else if (isFinal(failure) && isEntry)
         end("It was not asked, as there is no connection to the device.");

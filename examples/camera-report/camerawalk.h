@@ -35,7 +35,7 @@ private:
     void takeClock(const Answer &answer, const ClockReading &reading);
     void next();
     void take(const Question &question, const Answer &answer);
-    bool goesOnAfter(const Answer &answer);
+    bool goesOnAfter(const Answer &answer, bool hadProof);
     void end(const QString &why);
     QString complaintAbout(const Answer &answer) const;
     void keep(const Answer &answer);

@@ -108,10 +108,11 @@ void Probe::take(const QByteArray &bytes, const QHostAddress &sender)
     const QByteArray key = QCryptographicHash::hash(identity.toUtf8(), QCryptographicHash::Sha256);
     if (m_known.contains(key))
         return;
-    m_result.isFull =
-        m_result.isFull || m_result.found == maximumCameras || m_foundSize + found->size() > maximumFoundSize;
     if (m_result.isFull)
         return;
+    m_result.isFull = m_result.found == maximumCameras || m_foundSize + found->size() > maximumFoundSize;
+    if (m_result.isFull)
+        return m_end.start(0); // there is nothing to wait for any more
     m_known.insert(key);
     m_foundSize += found->size();
     ++m_result.found;

@@ -46,7 +46,7 @@ public:
     using Found = std::function<void(const FoundCamera &)>;
     using Done = std::function<void(const SearchResult &)>;
 
-    /// Waits for answers for all of \a duration. Calls \a found for each camera when it answers for the first time,
+    /// Waits for answers for all of \a duration, unless no more can be taken note of. Calls \a found for each camera when it answers for the first time,
     /// and \a done at the end.
     Probe(const ProbeTarget &target, std::chrono::milliseconds duration, Found found, Done done);
 

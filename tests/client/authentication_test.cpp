@@ -120,6 +120,14 @@ TEST_F(Authentication, goesByTheOwnClockWhereTheQuestionForItFails)
         << result.errors.toStdString();
 }
 
+TEST_F(Authentication, isTriedWhereTheClockIsNotToldToStrangers)
+{
+    const SimulatedDevice device({samples("short-prefixes"), "--auth", "token", "--answer",
+                                  "GetSystemDateAndTime=" + samples("faults/NotAuthorized.xml")});
+    const Result result = report(device, as("operator", "simulated"));
+    EXPECT_TRUE(result.output.contains("Relay outputs\n  AlarmOut_1")) << result.output.toStdString();
+}
+
 TEST_F(Authentication, neverHandsThePasswordItselfOver)
 {
     const SimulatedDevice device({samples("short-prefixes"), "--auth", "basic", "--record", recordFolder()});
