@@ -226,9 +226,9 @@ void write(QString &output, const XmlResponseNode &node)
 
 bool isSpeakable(const XmlResponseNode &node)
 {
-    // Surrogates have no reference of their own, and a NUL ends a value.
+    // Surrogates have no reference of their own.
     for (const QChar character : node.element.text()) {
-        if (character.isSurrogate() || character.isNull())
+        if (character.isSurrogate())
             return false;
     }
     return true;

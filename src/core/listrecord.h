@@ -1,29 +1,40 @@
 #pragma once
 
-#include <vorn/util/xmlresponse.h>
+#include "readchildren.h"
+
+#include <iterator>
 
 namespace vorn {
 
-/// Appends to the list record \a list what \a make makes of each node that its reply holds at \a childPath, in document
-/// order.
+/// Appends to the list record \a list what \a make makes of each element that its reply holds at \a childPath, in
+/// document order.
 ///
-/// An element is made first and then appended, not built in its place: what an element loses when it is copied or
-/// moved, it loses on its way into a list too.
+/// A record is made first and then appended, not built in its place: what it loses when it is copied or moved, it loses
+/// on its way into a list too.
 template <typename List, typename Make>
 void appendElements(List &list, const QString &childPath, const Make &make)
 {
-    const QList<XmlResponseNode> nodes = list.response.getAll(childPath);
-    list.reserve(list.size() + nodes.size());
-    for (const XmlResponseNode &node : nodes)
-        list.append(make(node));
+    const auto elements = elementsAt(list.response, childPath);
+    list.reserve(list.size() + std::distance(elements.begin(), elements.end()));
+    for (const RecordElement element : elements)
+        list.append(make(element));
 }
 
-/// Appends to the list record \a list one element for each node that its reply holds at \a childPath.
+/// Appends to the list record \a list one record for each element that its reply holds at \a childPath.
 template <typename List>
 void appendElements(List &list, const QString &childPath)
 {
-    using Element = typename List::value_type;
-    appendElements(list, childPath, [](const XmlResponseNode &node) { return Element(node); });
+    appendElements(list, childPath, recordFrom<typename List::value_type>);
+}
+
+/// Replaces what \a list holds by one record for each child of \a element that is called \a name.
+template <typename List>
+void readList(const RecordElement &element, const char *name, List &list)
+{
+    list.clear();
+    readChildren(element, {nested(name, [&list](const RecordElement &child) {
+                     list.append(recordFrom<typename List::value_type>(child));
+                 })});
 }
 
 } // namespace vorn

@@ -1,70 +1,65 @@
 #include "readchildren.h"
 
-#include <QtCore/QByteArrayView>
-#include <QtCore/QVarLengthArray>
-
 #include <algorithm>
 
 namespace vorn {
 namespace {
 
-QString textOf(const QDomElement &element)
+/// Calls \a read with each child of \a element and the reader for its name.
+template <typename Read>
+void visitRead(const RecordElement &element, std::initializer_list<ChildReader> readers, const Read &read)
 {
-    const QDomNode content = element.firstChild();
-    const bool isOneText = content.isText() && element.lastChild() == content;
-    return isOneText ? content.nodeValue() : element.text(); // the value is shared, the text a copy
-}
-
-/// As QString::toDouble(), which first brings the text into the form of the C locale. That takes ten times as long as
-/// the conversion and is for nothing where the text is plain digits, as nearly all are.
-double toDouble(const QString &text)
-{
-    QVarLengthArray<char, 32> digits;
-    bool isPlain = !text.isEmpty() && text.size() <= 32;
-    for (qsizetype i = 0; isPlain && i < text.size(); ++i) {
-        const char16_t character = text[i].unicode();
-        const bool isDigit = character >= u'0' && character <= u'9';
-        isPlain = isDigit || (character == u'-' && i == 0) || character == u'.';
-        digits.append(static_cast<char>(character));
-    }
-    return isPlain ? QByteArrayView(digits).toDouble() : text.toDouble();
+    element.visitChildren([&](const auto &name, const RecordElement &child) {
+        const auto hasName = [&name](const ChildReader &reader) { return name == reader.name; };
+        const ChildReader *reader = std::find_if(readers.begin(), readers.end(), hasName);
+        if (reader != readers.end())
+            read(*reader, child);
+    });
 }
 
 } // namespace
 
-void readChildren(const XmlResponseNode &node, std::initializer_list<ChildReader> readers)
+void readChildren(const RecordElement &element, std::initializer_list<ChildReader> readers)
 {
-    for (const XmlResponseNode &child : node.children) {
-        const auto hasName = [&child](const ChildReader &reader) { return child.name == reader.name; };
-        const ChildReader *reader = std::find_if(readers.begin(), readers.end(), hasName);
-        if (reader != readers.end())
-            reader->read(child, reader->target);
-    }
+    visitRead(element, readers,
+              [](const ChildReader &reader, const RecordElement &child) { reader.read(child, reader.target); });
 }
 
-void readValue(const XmlResponseNode &element, QString &value)
+void readFirstChildren(const RecordElement &element, std::initializer_list<ChildReader> readers)
 {
-    value = textOf(element.element);
+    Q_ASSERT(readers.size() <= 32);
+    std::uint32_t done = 0;
+    visitRead(element, readers, [&](const ChildReader &reader, const RecordElement &child) {
+        const std::uint32_t bit = std::uint32_t(1) << (&reader - readers.begin());
+        if ((done & bit) == 0)
+            reader.read(child, reader.target);
+        done |= bit;
+    });
 }
 
-void readValue(const XmlResponseNode &element, int &value)
+void readValue(const RecordElement &element, QString &value)
 {
-    value = textOf(element.element).toInt();
+    value = element.text();
 }
 
-void readValue(const XmlResponseNode &element, unsigned int &value)
+void readValue(const RecordElement &element, int &value)
 {
-    value = textOf(element.element).toUInt();
+    value = element.toInt();
 }
 
-void readValue(const XmlResponseNode &element, double &value)
+void readValue(const RecordElement &element, unsigned int &value)
 {
-    value = toDouble(textOf(element.element));
+    value = element.toUInt();
 }
 
-void readValue(const XmlResponseNode &element, bool &value)
+void readValue(const RecordElement &element, double &value)
 {
-    value = textOf(element.element) == QLatin1StringView("true");
+    value = element.toDouble();
+}
+
+void readValue(const RecordElement &element, bool &value)
+{
+    value = element.hasText(QLatin1String("true"));
 }
 
 } // namespace vorn

@@ -1,5 +1,6 @@
-#include "core/foundtext.h"
+#include "core/queries.h"
 #include "uriparts.h"
+#include "xml/numbers.h"
 
 #include <vorn/onvif/discovery.h>
 
@@ -22,7 +23,7 @@ constexpr auto namelessCamera = "networkcamera"_L1;
 /// Cuts \a address at \a colon if the default port stands behind it.
 void cutDefaultPort(QString &address, qsizetype colon)
 {
-    if (QStringView(address).sliced(colon + 1).toInt() == defaultPort)
+    if (toInt(QStringView(address).sliced(colon + 1)) == defaultPort)
         address.truncate(colon);
 }
 

@@ -1,30 +1,17 @@
+#include "core/queries.h"
+
 #include <vorn/onvif/device.h>
 
 namespace vorn {
-namespace {
-
 using namespace Qt::StringLiterals;
 
-/// Reads one field; its type decides how.
-class FieldReader
+/// A version is read whole: a part that is missing is 0.
+static OnvifCapabilities::SupportedVersion versionFrom(const RecordElement &element)
 {
-public:
-    explicit FieldReader(XmlResponse &response)
-        : m_response(response)
-    {
-    }
-
-    void operator()(QString &field, const QString &path) { field = m_response.getText(path); }
-
-    void operator()(bool &field, const QString &path) { field = m_response.getBool(path); }
-
-    void operator()(unsigned int &field, const QString &path) { field = m_response.getUInt(path); }
-
-private:
-    XmlResponse &m_response;
-};
-
-} // namespace
+    OnvifCapabilities::SupportedVersion version;
+    readFirstChildren(element, {query("Major", version.major), query("Minor", version.minor)});
+    return version;
+}
 
 OnvifCapabilities::OnvifCapabilities() = default;
 
@@ -32,101 +19,138 @@ OnvifCapabilities::OnvifCapabilities() = default;
 OnvifCapabilities::OnvifCapabilities(const QByteArray &bytes)
     : OnvifResponseStructure(bytes, u"/Envelope/Body/GetCapabilitiesResponse/Capabilities"_s)
 {
-    FieldReader read(response);
+    readQueries(response, u"/Analytics"_s,
+                {
+                    query("XAddr", analytics.xAddr),
+                    query("RuleSupport", analytics.ruleSupport),
+                    query("AnalyticsModuleSupport", analytics.analyticsModuleSupport),
+                });
 
-    read(analytics.xAddr, u"/Analytics/XAddr"_s);
-    read(analytics.ruleSupport, u"/Analytics/RuleSupport"_s);
-    read(analytics.analyticsModuleSupport, u"/Analytics/AnalyticsModuleSupport"_s);
+    readQueries(response, u"/Device"_s, {query("XAddr", device.xAddr)});
 
-    read(device.xAddr, u"/Device/XAddr"_s);
+    readQueries(response, u"/Device/Network"_s,
+                {
+                    query("IPFilter", device.network.ipFilter),
+                    query("ZeroConfiguration", device.network.zeroConfiguration),
+                    query("IPVersion6", device.network.ipVersion6),
+                    query("DynDNS", device.network.dynDns),
+                });
+    readQueries(response, u"/Device/Network/Extension"_s,
+                {query("Dot11Configuration", device.network.dot11Configuration)});
 
-    read(device.network.ipFilter, u"/Device/Network/IPFilter"_s);
-    read(device.network.zeroConfiguration, u"/Device/Network/ZeroConfiguration"_s);
-    read(device.network.ipVersion6, u"/Device/Network/IPVersion6"_s);
-    read(device.network.dynDns, u"/Device/Network/DynDNS"_s);
-    read(device.network.dot11Configuration, u"/Device/Network/Extension/Dot11Configuration"_s);
+    readQueries(response, u"/Device/System"_s,
+                {
+                    query("DiscoveryResolve", device.system.discoveryResolve),
+                    query("DiscoveryBye", device.system.discoveryBye),
+                    query("RemoteDiscovery", device.system.remoteDiscovery),
+                    query("SystemBackup", device.system.systemBackup),
+                    query("FirmwareUpgrade", device.system.firmwareUpgrade),
+                    query("SystemLogging", device.system.systemLogging),
+                });
+    for (const RecordElement version : elementsAt(response, u"/Device/System/SupportedVersions"_s))
+        device.system.supportedVersions.append(versionFrom(version));
+    readQueries(response, u"/Device/System/Extension"_s,
+                {
+                    query("HttpSystemBackup", device.system.httpSystemBackup),
+                    query("HttpFirmwareUpgrade", device.system.httpFirmwareUpgrade),
+                    query("HttpSystemLogging", device.system.httpSystemLogging),
+                    query("HttpSupportInformation", device.system.httpSupportInformation),
+                });
 
-    read(device.system.discoveryResolve, u"/Device/System/DiscoveryResolve"_s);
-    read(device.system.discoveryBye, u"/Device/System/DiscoveryBye"_s);
-    read(device.system.remoteDiscovery, u"/Device/System/RemoteDiscovery"_s);
-    read(device.system.systemBackup, u"/Device/System/SystemBackup"_s);
-    read(device.system.firmwareUpgrade, u"/Device/System/FirmwareUpgrade"_s);
-    read(device.system.systemLogging, u"/Device/System/SystemLogging"_s);
-    read(device.system.httpSystemBackup, u"/Device/System/Extension/HttpSystemBackup"_s);
-    read(device.system.httpFirmwareUpgrade, u"/Device/System/Extension/HttpFirmwareUpgrade"_s);
-    read(device.system.httpSystemLogging, u"/Device/System/Extension/HttpSystemLogging"_s);
-    read(device.system.httpSupportInformation, u"/Device/System/Extension/HttpSupportInformation"_s);
-    const QList<XmlResponseNode> versions = response.getAll(u"/Device/System/SupportedVersions"_s);
-    for (const XmlResponseNode &version : versions) {
-        device.system.supportedVersions.append({response.getUInt(version, u"/SupportedVersions/Major"_s),
-                                                response.getUInt(version, u"/SupportedVersions/Minor"_s)});
-    }
-
-    read(device.io.xAddr, u"/Extension/DeviceIO/XAddr"_s);
-    read(device.io.videoSources, u"/Extension/DeviceIO/VideoSources"_s);
-    read(device.io.videoOutputs, u"/Extension/DeviceIO/VideoOutputs"_s);
-    read(device.io.audioSources, u"/Extension/DeviceIO/AudioSources"_s);
-    read(device.io.relayOutputs, u"/Device/IO/RelayOutputs"_s);
+    readQueries(response, u"/Extension/DeviceIO"_s,
+                {
+                    query("XAddr", device.io.xAddr),
+                    query("VideoSources", device.io.videoSources),
+                    query("VideoOutputs", device.io.videoOutputs),
+                    query("AudioSources", device.io.audioSources),
+                });
+    readQueries(response, u"/Device/IO"_s,
+                {
+                    query("RelayOutputs", device.io.relayOutputs),
+                    query("InputConnectors", device.io.inputConnectors),
+                });
     if (device.io.relayOutputs == 0)
-        read(device.io.relayOutputs, u"/Extension/DeviceIO/RelayOutputs"_s);
-    read(device.io.inputConnectors, u"/Device/IO/InputConnectors"_s);
-    read(device.io.auxiliary, u"/Device/IO/Extension/Auxiliary"_s);
+        readQueries(response, u"/Extension/DeviceIO"_s, {query("RelayOutputs", device.io.relayOutputs)});
+    readQueries(response, u"/Device/IO/Extension"_s, {query("Auxiliary", device.io.auxiliary)});
     if (device.io.auxiliary) {
-        const QList<XmlResponseNode> commands = response.getAll(u"/Device/IO/Extension/AuxiliaryCommands"_s);
-        for (const XmlResponseNode &command : commands)
-            device.io.auxiliaryCommands.append(command.element.text());
+        for (const RecordElement command : elementsAt(response, u"/Device/IO/Extension/AuxiliaryCommands"_s))
+            device.io.auxiliaryCommands.append(command.text());
     }
 
-    read(device.security.tls10, u"/Device/Security/Extension/TLS1.0"_s);
-    read(device.security.tls11, u"/Device/Security/TLS1.1"_s);
-    read(device.security.tls12, u"/Device/Security/TLS1.2"_s);
-    read(device.security.onboardKeyGeneration, u"/Device/Security/OnboardKeyGeneration"_s);
-    read(device.security.accessPolicyConfig, u"/Device/Security/AccessPolicyConfig"_s);
-    read(device.security.x509Token, u"/Device/Security/X.509Token"_s);
-    read(device.security.samlToken, u"/Device/Security/SAMLToken"_s);
-    read(device.security.kerberosToken, u"/Device/Security/KerberosToken"_s);
-    read(device.security.relToken, u"/Device/Security/RELToken"_s);
-    read(device.security.dot1x, u"/Device/Security/Extension/Extension/Dot1X"_s);
-    read(device.security.remoteUserHandling, u"/Device/Security/Extension/Extension/RemoteUserHandling"_s);
-    const QList<XmlResponseNode> methods =
-        response.getAll(u"/Device/Security/Extension/Extension/SupportedEAPMethod"_s);
-    for (const XmlResponseNode &method : methods)
-        device.security.supportedEapMethods.append(method.element.text().toUInt());
+    readQueries(response, u"/Device/Security/Extension"_s, {query("TLS1.0", device.security.tls10)});
+    readQueries(response, u"/Device/Security"_s,
+                {
+                    query("TLS1.1", device.security.tls11),
+                    query("TLS1.2", device.security.tls12),
+                    query("OnboardKeyGeneration", device.security.onboardKeyGeneration),
+                    query("AccessPolicyConfig", device.security.accessPolicyConfig),
+                    query("X.509Token", device.security.x509Token),
+                    query("SAMLToken", device.security.samlToken),
+                    query("KerberosToken", device.security.kerberosToken),
+                    query("RELToken", device.security.relToken),
+                });
+    readQueries(response, u"/Device/Security/Extension/Extension"_s,
+                {
+                    query("Dot1X", device.security.dot1x),
+                    query("RemoteUserHandling", device.security.remoteUserHandling),
+                });
+    for (const RecordElement method :
+         elementsAt(response, u"/Device/Security/Extension/Extension/SupportedEAPMethod"_s))
+        device.security.supportedEapMethods.append(method.toUInt());
 
-    read(events.xAddr, u"/Events/XAddr"_s);
-    read(events.wsSubscriptionPolicySupport, u"/Events/WSSubscriptionPolicySupport"_s);
-    read(events.wsPullPointSupport, u"/Events/WSPullPointSupport"_s);
-    read(events.wsPausableSubscriptionManagerInterfaceSupport,
-         u"/Events/WSPausableSubscriptionManagerInterfaceSupport"_s);
+    readQueries(response, u"/Events"_s,
+                {
+                    query("XAddr", events.xAddr),
+                    query("WSSubscriptionPolicySupport", events.wsSubscriptionPolicySupport),
+                    query("WSPullPointSupport", events.wsPullPointSupport),
+                    query("WSPausableSubscriptionManagerInterfaceSupport",
+                          events.wsPausableSubscriptionManagerInterfaceSupport),
+                });
 
-    read(imaging.xAddr, u"/Imaging/XAddr"_s);
+    readQueries(response, u"/Imaging"_s, {query("XAddr", imaging.xAddr)});
 
-    read(media.xAddr, u"/Media/XAddr"_s);
-    read(media.rtpMulticast, u"/Media/StreamingCapabilities/RTPMulticast"_s);
-    read(media.rtpTcp, u"/Media/StreamingCapabilities/RTP_TCP"_s);
-    read(media.rtpRtspTcp, u"/Media/StreamingCapabilities/RTP_RTSP_TCP"_s);
-    read(media.maximumNumberOfProfiles, u"/Media/Extension/ProfileCapabilities/MaximumNumberOfProfiles"_s);
+    readQueries(response, u"/Media"_s, {query("XAddr", media.xAddr)});
+    readQueries(response, u"/Media/StreamingCapabilities"_s,
+                {
+                    query("RTPMulticast", media.rtpMulticast),
+                    query("RTP_TCP", media.rtpTcp),
+                    query("RTP_RTSP_TCP", media.rtpRtspTcp),
+                });
+    readQueries(response, u"/Media/Extension/ProfileCapabilities"_s,
+                {query("MaximumNumberOfProfiles", media.maximumNumberOfProfiles)});
 
-    read(ptz.xAddr, u"/PTZ/XAddr"_s);
+    readQueries(response, u"/PTZ"_s, {query("XAddr", ptz.xAddr)});
 
-    read(recording.xAddr, u"/Extension/Recording/XAddr"_s);
-    read(recording.dynamicRecordings, u"/Extension/Recording/DynamicRecordings"_s);
-    read(recording.dynamicTracks, u"/Extension/Recording/DynamicTracks"_s);
-    read(recording.deleteData, u"/Extension/Recording/DeleteData"_s);
-    read(recording.receiverSource, u"/Extension/Recording/ReceiverSource"_s);
-    read(recording.mediaProfileSource, u"/Extension/Recording/MediaProfileSource"_s);
-    read(recording.maxStringLength, u"/Extension/Recording/MaxStringLength"_s);
+    readQueries(response, u"/Extension/Recording"_s,
+                {
+                    query("XAddr", recording.xAddr),
+                    query("DynamicRecordings", recording.dynamicRecordings),
+                    query("DynamicTracks", recording.dynamicTracks),
+                    query("DeleteData", recording.deleteData),
+                    query("ReceiverSource", recording.receiverSource),
+                    query("MediaProfileSource", recording.mediaProfileSource),
+                    query("MaxStringLength", recording.maxStringLength),
+                });
 
-    read(search.xAddr, u"/Extension/Search/XAddr"_s);
-    read(search.metadataSearch, u"/Extension/Search/MetadataSearch"_s);
+    readQueries(response, u"/Extension/Search"_s,
+                {
+                    query("XAddr", search.xAddr),
+                    query("MetadataSearch", search.metadataSearch),
+                });
 
-    read(replay.xAddr, u"/Extension/Replay/XAddr"_s);
+    readQueries(response, u"/Extension/Replay"_s, {query("XAddr", replay.xAddr)});
 
-    read(analyticsDevice.xAddr, u"/Extension/AnalyticsDevice/XAddr"_s);
-    read(analyticsDevice.ruleSupport, u"/Extension/AnalyticsDevice/RuleSupport"_s);
+    readQueries(response, u"/Extension/AnalyticsDevice"_s,
+                {
+                    query("XAddr", analyticsDevice.xAddr),
+                    query("RuleSupport", analyticsDevice.ruleSupport),
+                });
 
-    read(display.xAddr, u"/Extension/Display/XAddr"_s);
-    read(display.fixedLayout, u"/Extension/Display/FixedLayout"_s);
+    readQueries(response, u"/Extension/Display"_s,
+                {
+                    query("XAddr", display.xAddr),
+                    query("FixedLayout", display.fixedLayout),
+                });
 }
 
 OnvifCapabilities::OnvifCapabilities(const OnvifCapabilities &other) = default;

@@ -1,3 +1,5 @@
+#include "core/queries.h"
+
 #include <vorn/onvif/device.h>
 
 namespace vorn {
@@ -8,12 +10,15 @@ OnvifDeviceInformation::OnvifDeviceInformation() = default;
 
 OnvifDeviceInformation::OnvifDeviceInformation(const QByteArray &bytes)
     : OnvifResponseStructure(bytes, u"/Envelope/Body/GetDeviceInformationResponse"_s)
-    , manufacturer(response.getText(u"/Manufacturer"_s))
-    , model(response.getText(u"/Model"_s))
-    , firmwareVersion(response.getText(u"/FirmwareVersion"_s))
-    , serialNumber(response.getText(u"/SerialNumber"_s))
-    , hardwareId(response.getText(u"/HardwareId"_s))
 {
+    readQueries(response, {},
+                {
+                    query("Manufacturer", manufacturer),
+                    query("Model", model),
+                    query("FirmwareVersion", firmwareVersion),
+                    query("SerialNumber", serialNumber),
+                    query("HardwareId", hardwareId),
+                });
 }
 
 OnvifDeviceInformation::OnvifDeviceInformation(const OnvifDeviceInformation &other) = default;

@@ -1,3 +1,4 @@
+#include "core/readchildren.h"
 #include "uriparts.h"
 
 #include <vorn/onvif/scopes.h>
@@ -62,11 +63,12 @@ OnvifScopeMap::OnvifScopeMap() = default;
 OnvifScopeMap::OnvifScopeMap(const QByteArray &bytes)
     : OnvifResponseStructure(bytes, u"/Envelope/Body/GetScopesResponse"_s)
 {
-    const QList<XmlResponseNode> nodes = response.getAll(u"/Scopes"_s);
-    for (const XmlResponseNode &node : nodes) {
-        const OnvifScope::Type type = typeByDefinition(response.getText(node, u"/Scopes/ScopeDef"_s));
-        const QString uri = response.getText(node, u"/Scopes/ScopeItem"_s);
-        const OnvifScope scope(type, uri);
+    const auto elements = elementsAt(response, u"/Scopes"_s);
+    for (const RecordElement element : elements) {
+        QString definition;
+        QString uri;
+        readFirstChildren(element, {field("ScopeDef", definition), field("ScopeItem", uri)});
+        const OnvifScope scope(typeByDefinition(definition), uri);
         const QStringView category = part(uri, categoryPart); // not decoded, unlike the key of the scope
         insert(category == scope.key ? scope.key : category.toString(), scope);
     }

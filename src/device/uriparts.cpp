@@ -1,11 +1,23 @@
 #include "uriparts.h"
 
 #include <QtCore/QString>
-#include <QtCore/QUrl>
 
 #include <algorithm>
 
 namespace vorn {
+namespace {
+
+/// The value of a hexadecimal digit; of another character its code.
+unsigned int hexadecimalValue(char c)
+{
+    const auto code = static_cast<unsigned char>(c);
+    if (code >= '0' && code <= '9')
+        return code - unsigned{'0'};
+    const unsigned int lower = code | unsigned{' '};
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : code;
+}
+
+} // namespace
 
 QStringView partsFrom(QStringView uri, int index)
 {
@@ -29,7 +41,18 @@ QString percentDecoded(QStringView part)
     const auto staysAsItIs = [](QChar character) { return character.unicode() < 0x80 && character != u'%'; };
     if (std::all_of(part.begin(), part.end(), staysAsItIs)) // nearly always, and cheaper
         return part.toString();
-    return QUrl::fromPercentEncoding(part.toUtf8());
+    // As QUrl::fromPercentEncoding() of Qt 6.4. Of "%zz" and its like, other versions make something else.
+    const QByteArray utf8 = part.toUtf8();
+    QByteArray decoded;
+    for (qsizetype i = 0; i < utf8.size(); ++i) {
+        if (utf8[i] == '%' && i + 2 < utf8.size()) {
+            decoded += static_cast<char>(hexadecimalValue(utf8[i + 1]) << 4 | hexadecimalValue(utf8[i + 2]));
+            i += 2;
+        } else {
+            decoded += utf8[i];
+        }
+    }
+    return QString::fromUtf8(decoded);
 }
 
 } // namespace vorn

@@ -1,4 +1,4 @@
-#include "core/foundtext.h"
+#include "core/queries.h"
 #include "faultcodes.h"
 
 #include <vorn/onvif/faults.h>

@@ -1,5 +1,6 @@
 #include "core/exportlist.h"
-#include "core/readchildren.h"
+#include "core/listrecord.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/analytics.h>
 
@@ -7,13 +8,18 @@ namespace vorn {
 
 using namespace Qt::StringLiterals;
 
+static void readValue(const RecordElement &element, OnvifAnalyticsModule &analyticsModule)
+{
+    analyticsModule.name = element.attribute(u"Name"_s);
+    analyticsModule.type = element.attribute(u"Type"_s);
+}
+
 OnvifAnalyticsModule::OnvifAnalyticsModule() = default;
 
 OnvifAnalyticsModule::OnvifAnalyticsModule(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , name(node.element.attribute(u"Name"_s))
-    , type(node.element.attribute(u"Type"_s))
 {
+    readValue(node, *this);
 }
 
 OnvifAnalyticsModule::OnvifAnalyticsModule(const OnvifAnalyticsModule &other) = default;
@@ -27,12 +33,16 @@ bool OnvifAnalyticsModule::operator==(const OnvifAnalyticsModule &other) const
     return isNull() == other.isNull() && name == other.name && type == other.type;
 }
 
+void readValue(const RecordElement &element, OnvifAnalyticsEngineConfigurationVector &modules)
+{
+    readList(element, "AnalyticsModule", modules);
+}
+
 OnvifAnalyticsEngineConfigurationVector::OnvifAnalyticsEngineConfigurationVector() = default;
 
 OnvifAnalyticsEngineConfigurationVector::OnvifAnalyticsEngineConfigurationVector(const XmlResponseNode &node)
 {
-    readChildren(node, {nested("AnalyticsModule",
-                               [this](const XmlResponseNode &child) { append(OnvifAnalyticsModule(child)); })});
+    readValue(node, *this);
 }
 
 OnvifAnalyticsEngineConfigurationVector::OnvifAnalyticsEngineConfigurationVector(

@@ -1,6 +1,7 @@
 #include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -8,13 +9,18 @@ namespace vorn {
 
 using namespace Qt::StringLiterals;
 
+void readValue(const RecordElement &element, OnvifAudioDecoderConfiguration &configuration)
+{
+    configuration.token = element.attribute(u"token"_s);
+    readChildren(element, {field("Name", configuration.name)});
+}
+
 OnvifAudioDecoderConfiguration::OnvifAudioDecoderConfiguration() = default;
 
 OnvifAudioDecoderConfiguration::OnvifAudioDecoderConfiguration(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {field("Name", name)});
+    readValue(node, *this);
 }
 
 // Nothing is copied: to a caller, a copy of a decoder configuration is a null record. Assignment does copy.

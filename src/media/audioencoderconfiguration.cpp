@@ -1,6 +1,7 @@
 #include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -8,20 +9,25 @@ namespace vorn {
 
 using namespace Qt::StringLiterals;
 
+void readValue(const RecordElement &element, OnvifAudioEncoderConfiguration &configuration)
+{
+    configuration.token = element.attribute(u"token"_s);
+    readChildren(element, {
+                              field("Name", configuration.name),
+                              field("Encoding", configuration.encoding),
+                              field("UseCount", configuration.useCount),
+                              field("Bitrate", configuration.bitrate),
+                              field("SampleRate", configuration.sampleRate),
+                              field("SessionTimeout", configuration.sessionTimeout),
+                          });
+}
+
 OnvifAudioEncoderConfiguration::OnvifAudioEncoderConfiguration() = default;
 
 OnvifAudioEncoderConfiguration::OnvifAudioEncoderConfiguration(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {
-                           field("Name", name),
-                           field("Encoding", encoding),
-                           field("UseCount", useCount),
-                           field("Bitrate", bitrate),
-                           field("SampleRate", sampleRate),
-                           field("SessionTimeout", sessionTimeout),
-                       });
+    readValue(node, *this);
 }
 
 OnvifAudioEncoderConfiguration::OnvifAudioEncoderConfiguration(const OnvifAudioEncoderConfiguration &other) = default;

@@ -1,6 +1,7 @@
 #include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -8,19 +9,24 @@ namespace vorn {
 
 using namespace Qt::StringLiterals;
 
+void readValue(const RecordElement &element, OnvifAudioOutputConfiguration &configuration)
+{
+    configuration.token = element.attribute(u"token"_s);
+    readChildren(element, {
+                              field("Name", configuration.name),
+                              field("UseCount", configuration.useCount),
+                              field("OutputToken", configuration.outputToken),
+                              field("OutputLevel", configuration.outputLevel),
+                              field("SendPrimacy", configuration.sendPrimacy),
+                          });
+}
+
 OnvifAudioOutputConfiguration::OnvifAudioOutputConfiguration() = default;
 
 OnvifAudioOutputConfiguration::OnvifAudioOutputConfiguration(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {
-                           field("Name", name),
-                           field("UseCount", useCount),
-                           field("OutputToken", outputToken),
-                           field("OutputLevel", outputLevel),
-                           field("SendPrimacy", sendPrimacy),
-                       });
+    readValue(node, *this);
 }
 
 OnvifAudioOutputConfiguration::OnvifAudioOutputConfiguration(const OnvifAudioOutputConfiguration &other) = default;

@@ -1,6 +1,7 @@
 #include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -8,17 +9,22 @@ namespace vorn {
 
 using namespace Qt::StringLiterals;
 
+void readValue(const RecordElement &element, OnvifAudioSourceConfiguration &configuration)
+{
+    configuration.token = element.attribute(u"token"_s);
+    readChildren(element, {
+                              field("Name", configuration.name),
+                              field("UseCount", configuration.useCount),
+                              field("SourceToken", configuration.sourceToken),
+                          });
+}
+
 OnvifAudioSourceConfiguration::OnvifAudioSourceConfiguration() = default;
 
 OnvifAudioSourceConfiguration::OnvifAudioSourceConfiguration(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {
-                           field("Name", name),
-                           field("UseCount", useCount),
-                           field("SourceToken", sourceToken),
-                       });
+    readValue(node, *this);
 }
 
 OnvifAudioSourceConfiguration::OnvifAudioSourceConfiguration(const OnvifAudioSourceConfiguration &other) = default;

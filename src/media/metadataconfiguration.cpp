@@ -1,5 +1,6 @@
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -7,25 +8,31 @@ namespace vorn {
 
 using namespace Qt::StringLiterals;
 
+void readValue(const RecordElement &element, OnvifMetadataConfiguration &configuration)
+{
+    configuration.token = element.attribute(u"token"_s);
+    readChildren(element, {
+                              field("Name", configuration.name),
+                              field("UseCount", configuration.useCount),
+                              field("Analytics", configuration.analytics),
+                              field("SessionTimeout", configuration.sessionTimeout),
+                              group("PTZStatus", {field("Status", configuration.ptzStatus),
+                                                  field("Position", configuration.ptzPosition)}),
+                              group("Events",
+                                    {
+                                        field("Filter", configuration.eventsFilter),
+                                        field("SubscriptionPolicy", configuration.eventsSubscriptionPolicy),
+                                    }),
+                              field("AnalyticsEngineConfiguration", configuration.analyticsEngineConfiguration),
+                          });
+}
+
 OnvifMetadataConfiguration::OnvifMetadataConfiguration() = default;
 
 OnvifMetadataConfiguration::OnvifMetadataConfiguration(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {
-                           field("Name", name),
-                           field("UseCount", useCount),
-                           field("Analytics", analytics),
-                           field("SessionTimeout", sessionTimeout),
-                           group("PTZStatus", {field("Status", ptzStatus), field("Position", ptzPosition)}),
-                           group("Events",
-                                 {
-                                     field("Filter", eventsFilter),
-                                     field("SubscriptionPolicy", eventsSubscriptionPolicy),
-                                 }),
-                           field("AnalyticsEngineConfiguration", analyticsEngineConfiguration),
-                       });
+    readValue(node, *this);
 }
 
 OnvifMetadataConfiguration::OnvifMetadataConfiguration(const OnvifMetadataConfiguration &other) = default;

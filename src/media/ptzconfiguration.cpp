@@ -1,6 +1,7 @@
 #include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -9,38 +10,44 @@ namespace vorn {
 using namespace Qt::StringLiterals;
 
 /// A bound that is missing is 0, also where an earlier element had it.
-static void readValue(const XmlResponseNode &node, OnvifPtzRange &range)
+static void readValue(const RecordElement &element, OnvifPtzRange &range)
 {
     range = OnvifPtzRange();
-    readChildren(node, {field("Min", range.min), field("Max", range.max)});
+    readChildren(element, {field("Min", range.min), field("Max", range.max)});
 }
 
 /// The axes stand below a child of \a limits, whatever its name.
-static void readAxes(const XmlResponseNode &limits, std::initializer_list<ChildReader> axes)
+static void readAxes(const RecordElement &limits, std::initializer_list<ChildReader> axes)
 {
-    for (const XmlResponseNode &space : limits.children)
-        readChildren(space, axes);
+    limits.visitChildren([axes](const auto &, const RecordElement &space) { readChildren(space, axes); });
+}
+
+void readValue(const RecordElement &element, OnvifPtzConfiguration &configuration)
+{
+    configuration.token = element.attribute(u"token"_s);
+    readChildren(element, {
+                              field("Name", configuration.name),
+                              field("DefaultPTZTimeout", configuration.defaultPtzTimeout),
+                              field("UseCount", configuration.useCount),
+                              field("NodeToken", configuration.nodeToken),
+                              nested("PanTiltLimits",
+                                     [&configuration](const RecordElement &child) {
+                                         readAxes(child, {field("XRange", configuration.panTiltXRange),
+                                                          field("YRange", configuration.panTiltYRange)});
+                                     }),
+                              nested("ZoomLimits",
+                                     [&configuration](const RecordElement &child) {
+                                         readAxes(child, {field("XRange", configuration.zoomXRange)});
+                                     }),
+                          });
 }
 
 OnvifPtzConfiguration::OnvifPtzConfiguration() = default;
 
 OnvifPtzConfiguration::OnvifPtzConfiguration(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node,
-                 {
-                     field("Name", name),
-                     field("DefaultPTZTimeout", defaultPtzTimeout),
-                     field("UseCount", useCount),
-                     field("NodeToken", nodeToken),
-                     nested("PanTiltLimits",
-                            [this](const XmlResponseNode &child) {
-                                readAxes(child, {field("XRange", panTiltXRange), field("YRange", panTiltYRange)});
-                            }),
-                     nested("ZoomLimits",
-                            [this](const XmlResponseNode &child) { readAxes(child, {field("XRange", zoomXRange)}); }),
-                 });
+    readValue(node, *this);
 }
 
 OnvifPtzConfiguration::OnvifPtzConfiguration(const OnvifPtzConfiguration &other) = default;

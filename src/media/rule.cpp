@@ -1,5 +1,6 @@
 #include "core/exportlist.h"
-#include "core/readchildren.h"
+#include "core/listrecord.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/analytics.h>
 
@@ -7,13 +8,18 @@ namespace vorn {
 
 using namespace Qt::StringLiterals;
 
+static void readValue(const RecordElement &element, OnvifRule &rule)
+{
+    rule.name = element.attribute(u"Name"_s);
+    rule.type = element.attribute(u"Type"_s);
+}
+
 OnvifRule::OnvifRule() = default;
 
 OnvifRule::OnvifRule(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , name(node.element.attribute(u"Name"_s))
-    , type(node.element.attribute(u"Type"_s))
 {
+    readValue(node, *this);
 }
 
 OnvifRule::OnvifRule(const OnvifRule &other) = default;
@@ -27,11 +33,16 @@ bool OnvifRule::operator==(const OnvifRule &other) const
     return isNull() == other.isNull() && name == other.name && type == other.type;
 }
 
+void readValue(const RecordElement &element, OnvifRuleEngineConfigurationVector &rules)
+{
+    readList(element, "Rule", rules);
+}
+
 OnvifRuleEngineConfigurationVector::OnvifRuleEngineConfigurationVector() = default;
 
 OnvifRuleEngineConfigurationVector::OnvifRuleEngineConfigurationVector(const XmlResponseNode &node)
 {
-    readChildren(node, {nested("Rule", [this](const XmlResponseNode &child) { append(OnvifRule(child)); })});
+    readValue(node, *this);
 }
 
 OnvifRuleEngineConfigurationVector::OnvifRuleEngineConfigurationVector(

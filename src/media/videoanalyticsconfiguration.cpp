@@ -1,6 +1,7 @@
 #include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -8,18 +9,23 @@ namespace vorn {
 
 using namespace Qt::StringLiterals;
 
+void readValue(const RecordElement &element, OnvifVideoAnalyticsConfiguration &configuration)
+{
+    configuration.token = element.attribute(u"token"_s);
+    readChildren(element, {
+                              field("Name", configuration.name),
+                              field("UseCount", configuration.useCount),
+                              field("AnalyticsEngineConfiguration", configuration.analyticsEngineConfiguration),
+                              field("RuleEngineConfiguration", configuration.ruleEngineConfiguration),
+                          });
+}
+
 OnvifVideoAnalyticsConfiguration::OnvifVideoAnalyticsConfiguration() = default;
 
 OnvifVideoAnalyticsConfiguration::OnvifVideoAnalyticsConfiguration(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {
-                           field("Name", name),
-                           field("UseCount", useCount),
-                           field("AnalyticsEngineConfiguration", analyticsEngineConfiguration),
-                           field("RuleEngineConfiguration", ruleEngineConfiguration),
-                       });
+    readValue(node, *this);
 }
 
 OnvifVideoAnalyticsConfiguration::OnvifVideoAnalyticsConfiguration(const OnvifVideoAnalyticsConfiguration &other) =

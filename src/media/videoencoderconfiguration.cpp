@@ -1,6 +1,7 @@
 #include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "readconfigurations.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -9,34 +10,39 @@ namespace vorn {
 using namespace Qt::StringLiterals;
 
 /// A side that is missing is 0, also where an earlier element had it.
-static void readValue(const XmlResponseNode &node, QSize &resolution)
+static void readValue(const RecordElement &element, QSize &resolution)
 {
     int width = 0;
     int height = 0;
-    readChildren(node, {field("Width", width), field("Height", height)});
+    readChildren(element, {field("Width", width), field("Height", height)});
     resolution = QSize(width, height);
+}
+
+void readValue(const RecordElement &element, OnvifVideoEncoderConfiguration &configuration)
+{
+    configuration.token = element.attribute(u"token"_s);
+    readChildren(element, {
+                              field("Name", configuration.name),
+                              field("Encoding", configuration.encoding),
+                              field("UseCount", configuration.useCount),
+                              field("Resolution", configuration.resolution),
+                              field("Quality", configuration.quality),
+                              group("RateControl",
+                                    {
+                                        field("FrameRateLimit", configuration.frameRateLimit),
+                                        field("EncodingInterval", configuration.encodingInterval),
+                                        field("BitrateLimit", configuration.bitrateLimit),
+                                    }),
+                              field("SessionTimeout", configuration.sessionTimeout),
+                          });
 }
 
 OnvifVideoEncoderConfiguration::OnvifVideoEncoderConfiguration() = default;
 
 OnvifVideoEncoderConfiguration::OnvifVideoEncoderConfiguration(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {
-                           field("Name", name),
-                           field("Encoding", encoding),
-                           field("UseCount", useCount),
-                           field("Resolution", resolution),
-                           field("Quality", quality),
-                           group("RateControl",
-                                 {
-                                     field("FrameRateLimit", frameRateLimit),
-                                     field("EncodingInterval", encodingInterval),
-                                     field("BitrateLimit", bitrateLimit),
-                                 }),
-                           field("SessionTimeout", sessionTimeout),
-                       });
+    readValue(node, *this);
 }
 
 OnvifVideoEncoderConfiguration::OnvifVideoEncoderConfiguration(const OnvifVideoEncoderConfiguration &other) = default;

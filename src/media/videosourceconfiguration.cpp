@@ -1,6 +1,8 @@
 #include "core/exportlist.h"
 #include "core/listrecord.h"
 #include "core/readchildren.h"
+#include "readconfigurations.h"
+#include "xml/numbers.h"
 
 #include <vorn/onvif/configurations.h>
 
@@ -9,9 +11,9 @@ namespace vorn {
 using namespace Qt::StringLiterals;
 
 /// As QRect(x, y, width, height), but an edge beyond the range of int wraps around.
-static void readValue(const XmlResponseNode &node, QRect &bounds)
+static void readValue(const RecordElement &element, QRect &bounds)
 {
-    const auto number = [&node](const QString &attribute) { return node.element.attribute(attribute).toInt(); };
+    const auto number = [&element](const QString &attribute) { return toInt(element.attribute(attribute)); };
     const auto lastOf = [](int first, int count) {
         return static_cast<int>(static_cast<unsigned int>(first) + static_cast<unsigned int>(count) - 1U);
     };
@@ -20,18 +22,23 @@ static void readValue(const XmlResponseNode &node, QRect &bounds)
     bounds.setCoords(x, y, lastOf(x, number(u"width"_s)), lastOf(y, number(u"height"_s)));
 }
 
+void readValue(const RecordElement &element, OnvifVideoSourceConfiguration &configuration)
+{
+    configuration.token = element.attribute(u"token"_s);
+    readChildren(element, {
+                              field("Name", configuration.name),
+                              field("UseCount", configuration.useCount),
+                              field("SourceToken", configuration.sourceToken),
+                              field("Bounds", configuration.bounds),
+                          });
+}
+
 OnvifVideoSourceConfiguration::OnvifVideoSourceConfiguration() = default;
 
 OnvifVideoSourceConfiguration::OnvifVideoSourceConfiguration(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {
-                           field("Name", name),
-                           field("UseCount", useCount),
-                           field("SourceToken", sourceToken),
-                           field("Bounds", bounds),
-                       });
+    readValue(node, *this);
 }
 
 OnvifVideoSourceConfiguration::OnvifVideoSourceConfiguration(const OnvifVideoSourceConfiguration &other) = default;

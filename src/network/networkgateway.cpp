@@ -1,3 +1,5 @@
+#include "core/queries.h"
+
 #include <vorn/onvif/network.h>
 #include <vorn/onvif/placeholderstring.h>
 
@@ -11,8 +13,7 @@ OnvifNetworkGateway::OnvifNetworkGateway() = default;
 OnvifNetworkGateway::OnvifNetworkGateway(const QByteArray &bytes)
 {
     OnvifResponseStructure reply(bytes, u"/Envelope/Body/GetNetworkDefaultGatewayResponse/NetworkGateway"_s);
-    ipv4Address = reply.response.getText(u"/IPv4Address"_s);
-    ipv6Address = reply.response.getText(u"/IPv6Address"_s);
+    readQueries(reply.response, {}, {query("IPv4Address", ipv4Address), query("IPv6Address", ipv6Address)});
 }
 
 OnvifNetworkGateway::OnvifNetworkGateway(const OnvifNetworkGateway &other) = default;

@@ -14,14 +14,14 @@ using PrefixedAddress = OnvifNetworkInterface::PrefixedAddress;
 using IPv4 = OnvifNetworkInterface::IPv4;
 using IPv6 = OnvifNetworkInterface::IPv6;
 
-static void readValue(const XmlResponseNode &node, LinkSettings::Duplex &duplex)
+static void readValue(const RecordElement &element, LinkSettings::Duplex &duplex)
 {
-    readEnumeration(node, duplex, {{"Full", LinkSettings::Full}, {"Half", LinkSettings::Half}});
+    readEnumeration(element, duplex, {{"Full", LinkSettings::Full}, {"Half", LinkSettings::Half}});
 }
 
-static void readValue(const XmlResponseNode &node, IPv6::Configuration::DHCP &dhcp)
+static void readValue(const RecordElement &element, IPv6::Configuration::DHCP &dhcp)
 {
-    readEnumeration(node, dhcp,
+    readEnumeration(element, dhcp,
                     {
                         {"Auto", IPv6::Configuration::Auto},
                         {"Stateful", IPv6::Configuration::Stateful},
@@ -30,59 +30,59 @@ static void readValue(const XmlResponseNode &node, IPv6::Configuration::DHCP &dh
                     });
 }
 
-static void readValue(const XmlResponseNode &node, LinkSettings &settings)
+static void readValue(const RecordElement &element, LinkSettings &settings)
 {
     settings.present = true;
-    readChildren(node, {
-                           field("AutoNegotiation", settings.autoNegotiation),
-                           field("Speed", settings.speed),
-                           field("Duplex", settings.duplex),
-                       });
+    readChildren(element, {
+                              field("AutoNegotiation", settings.autoNegotiation),
+                              field("Speed", settings.speed),
+                              field("Duplex", settings.duplex),
+                          });
 }
 
 /// What an entry lacks is empty or 0, also where an earlier element had it.
-static void readValue(const XmlResponseNode &node, PrefixedAddress &entry)
+static void readValue(const RecordElement &element, PrefixedAddress &entry)
 {
     entry = PrefixedAddress();
-    readChildren(node, {field("Address", entry.address), field("PrefixLength", entry.prefixLength)});
+    readChildren(element, {field("Address", entry.address), field("PrefixLength", entry.prefixLength)});
 }
 
 /// Each element adds an entry.
-static void readValue(const XmlResponseNode &node, QList<PrefixedAddress> &entries)
+static void readValue(const RecordElement &element, QList<PrefixedAddress> &entries)
 {
-    readValue(node, entries.emplaceBack());
+    readValue(element, entries.emplaceBack());
 }
 
-static void readValue(const XmlResponseNode &node, IPv4::Configuration &config)
+static void readValue(const RecordElement &element, IPv4::Configuration &config)
 {
-    readChildren(node, {
-                           field("Manual", config.manual),
-                           field("LinkLocal", config.linkLocal),
-                           field("FromDHCP", config.fromDHCP),
-                           field("DHCP", config.dhcp),
-                       });
+    readChildren(element, {
+                              field("Manual", config.manual),
+                              field("LinkLocal", config.linkLocal),
+                              field("FromDHCP", config.fromDHCP),
+                              field("DHCP", config.dhcp),
+                          });
 }
 
-static void readValue(const XmlResponseNode &node, IPv6::Configuration &config)
+static void readValue(const RecordElement &element, IPv6::Configuration &config)
 {
-    readChildren(node, {
-                           field("AcceptRouterAdvert", config.acceptRouterAdvert),
-                           field("DHCP", config.dhcp),
-                           field("Manual", config.manual),
-                           field("LinkLocal", config.linkLocal),
-                           field("FromDHCP", config.fromDHCP),
-                           field("FromRA", config.fromRA),
-                       });
+    readChildren(element, {
+                              field("AcceptRouterAdvert", config.acceptRouterAdvert),
+                              field("DHCP", config.dhcp),
+                              field("Manual", config.manual),
+                              field("LinkLocal", config.linkLocal),
+                              field("FromDHCP", config.fromDHCP),
+                              field("FromRA", config.fromRA),
+                          });
 }
 
-static void readValue(const XmlResponseNode &node, IPv4 &ipv4)
+static void readValue(const RecordElement &element, IPv4 &ipv4)
 {
-    readChildren(node, {field("Enabled", ipv4.enabled), field("Config", ipv4.config)});
+    readChildren(element, {field("Enabled", ipv4.enabled), field("Config", ipv4.config)});
 }
 
-static void readValue(const XmlResponseNode &node, IPv6 &ipv6)
+static void readValue(const RecordElement &element, IPv6 &ipv6)
 {
-    readChildren(node, {field("Enabled", ipv6.enabled), field("Config", ipv6.config)});
+    readChildren(element, {field("Enabled", ipv6.enabled), field("Config", ipv6.config)});
 }
 
 OnvifNetworkInterface::LinkSettings::LinkSettings() = default;
@@ -136,31 +136,36 @@ IPv6 &OnvifNetworkInterface::IPv6::operator=(const IPv6 &other) = default;
 IPv6 &OnvifNetworkInterface::IPv6::operator=(IPv6 &&other) noexcept = default;
 OnvifNetworkInterface::IPv6::~IPv6() = default;
 
+static void readValue(const RecordElement &element, OnvifNetworkInterface &networkInterface)
+{
+    networkInterface.token = element.attribute(u"token"_s);
+    readChildren(element, {
+                              field("Enabled", networkInterface.enabled),
+                              group("Info",
+                                    {
+                                        field("Name", networkInterface.name),
+                                        field("HwAddress", networkInterface.hwAddress),
+                                        field("MTU", networkInterface.mtu),
+                                    }),
+                              group("Link",
+                                    {
+                                        field("InterfaceType", networkInterface.interfaceType),
+                                        field("AdminSettings", networkInterface.adminSettings),
+                                        field("OperSettings", networkInterface.operSettings),
+                                    }),
+                              field("IPv4", networkInterface.ipv4),
+                              field("IPv6", networkInterface.ipv6),
+                          });
+    // Reading includes one printing. It has no effect on the record.
+    (void)networkInterface.toString();
+}
+
 OnvifNetworkInterface::OnvifNetworkInterface() = default;
 
 OnvifNetworkInterface::OnvifNetworkInterface(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {
-                           field("Enabled", enabled),
-                           group("Info",
-                                 {
-                                     field("Name", name),
-                                     field("HwAddress", hwAddress),
-                                     field("MTU", mtu),
-                                 }),
-                           group("Link",
-                                 {
-                                     field("InterfaceType", interfaceType),
-                                     field("AdminSettings", adminSettings),
-                                     field("OperSettings", operSettings),
-                                 }),
-                           field("IPv4", ipv4),
-                           field("IPv6", ipv6),
-                       });
-    // Reading includes one printing. It has no effect on the record.
-    (void)OnvifNetworkInterface::toString();
+    readValue(node, *this);
 }
 
 OnvifNetworkInterface::OnvifNetworkInterface(const OnvifNetworkInterface &other) = default;

@@ -16,11 +16,10 @@ struct EnumerationText
 
 /// Sets \a value to the one whose text \a element holds. Any other text leaves it as it was.
 template <typename Enumeration>
-void readEnumeration(const XmlResponseNode &element, Enumeration &value,
+void readEnumeration(const RecordElement &element, Enumeration &value,
                      std::initializer_list<EnumerationText<Enumeration>> texts)
 {
-    QString found;
-    readValue(element, found);
+    const QString found = element.text();
     for (const EnumerationText<Enumeration> &candidate : texts) {
         if (found == QLatin1StringView(candidate.text))
             value = candidate.value;

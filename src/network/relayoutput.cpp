@@ -11,29 +11,34 @@ namespace vorn {
 
 using namespace Qt::StringLiterals;
 
-static void readValue(const XmlResponseNode &node, OnvifRelayOutput::RelayMode &mode)
+static void readValue(const RecordElement &element, OnvifRelayOutput::RelayMode &mode)
 {
-    readEnumeration(node, mode,
+    readEnumeration(element, mode,
                     {{"Monostable", OnvifRelayOutput::Monostable}, {"Bistable", OnvifRelayOutput::Bistable}});
 }
 
-static void readValue(const XmlResponseNode &node, OnvifRelayOutput::IdleState &state)
+static void readValue(const RecordElement &element, OnvifRelayOutput::IdleState &state)
 {
     state = OnvifRelayOutput::Closed; // for every text but "open"
-    readEnumeration(node, state, {{"open", OnvifRelayOutput::Open}});
+    readEnumeration(element, state, {{"open", OnvifRelayOutput::Open}});
+}
+
+static void readValue(const RecordElement &element, OnvifRelayOutput &relayOutput)
+{
+    relayOutput.token = element.attribute(u"token"_s);
+    readChildren(element, {group("Properties", {
+                                                   field("Mode", relayOutput.mode),
+                                                   field("DelayTime", relayOutput.delayTime),
+                                                   field("IdleState", relayOutput.idleState),
+                                               })});
 }
 
 OnvifRelayOutput::OnvifRelayOutput() = default;
 
 OnvifRelayOutput::OnvifRelayOutput(const XmlResponseNode &node)
     : OnvifDataStructure(node.element.isNull())
-    , token(node.element.attribute(u"token"_s))
 {
-    readChildren(node, {group("Properties", {
-                                                field("Mode", mode),
-                                                field("DelayTime", delayTime),
-                                                field("IdleState", idleState),
-                                            })});
+    readValue(node, *this);
 }
 
 OnvifRelayOutput::OnvifRelayOutput(const OnvifRelayOutput &other) = default;

@@ -1,4 +1,5 @@
 #include "core/listrecord.h"
+#include "media/readconfigurations.h"
 
 #include <vorn/onvif/profiles.h>
 
@@ -8,23 +9,39 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The profile that \a node holds, with all its configurations.
-OnvifProfile profileFrom(XmlResponse &response, const XmlResponseNode &node)
+/// The configuration that an element holds is assigned as a whole: what assignment does not take, a profile does not
+/// get.
+template <typename Configuration>
+ChildReader configuration(const char *name, Configuration &target)
 {
-    OnvifProfile profile(response.getText(node, u"/Profiles/Name"_s), node.element.attribute(u"token"_s),
-                         node.element.attribute(u"fixed"_s) == "true"_L1);
-    const auto read = [&](auto &configuration, const QString &path) {
-        configuration = std::decay_t<decltype(configuration)>(response.get(node, path));
-    };
-    read(profile.videoSource, u"/Profiles/VideoSourceConfiguration"_s);
-    read(profile.audioSource, u"/Profiles/AudioSourceConfiguration"_s);
-    read(profile.videoEncoder, u"/Profiles/VideoEncoderConfiguration"_s);
-    read(profile.audioEncoder, u"/Profiles/AudioEncoderConfiguration"_s);
-    read(profile.videoAnalytics, u"/Profiles/VideoAnalyticsConfiguration"_s);
-    read(profile.ptz, u"/Profiles/PTZConfiguration"_s);
-    read(profile.metadata, u"/Profiles/MetadataConfiguration"_s);
-    read(profile.audioOutput, u"/Profiles/Extension/AudioOutputConfiguration"_s);
-    read(profile.audioDecoder, u"/Profiles/Extension/AudioDecoderConfiguration"_s);
+    return {QLatin1String(name), &target, [](const RecordElement &child, void *record) {
+                *static_cast<Configuration *>(record) = recordFrom<Configuration>(child);
+            }};
+}
+
+/// The profile that \a element holds, with all its configurations. Of two of one kind, the first counts.
+OnvifProfile profileFrom(const RecordElement &element)
+{
+    OnvifProfile profile({}, element.attribute(u"token"_s), element.attribute(u"fixed"_s) == "true"_L1);
+    readFirstChildren(element, {
+                                   field("Name", profile.name),
+                                   configuration("VideoSourceConfiguration", profile.videoSource),
+                                   configuration("AudioSourceConfiguration", profile.audioSource),
+                                   configuration("VideoEncoderConfiguration", profile.videoEncoder),
+                                   configuration("AudioEncoderConfiguration", profile.audioEncoder),
+                                   configuration("VideoAnalyticsConfiguration", profile.videoAnalytics),
+                                   configuration("PTZConfiguration", profile.ptz),
+                                   configuration("MetadataConfiguration", profile.metadata),
+                                   nested("Extension",
+                                          [&profile](const RecordElement &extension) {
+                                              readFirstChildren(
+                                                  extension,
+                                                  {
+                                                      configuration("AudioOutputConfiguration", profile.audioOutput),
+                                                      configuration("AudioDecoderConfiguration", profile.audioDecoder),
+                                                  });
+                                          }),
+                               });
     return profile;
 }
 
@@ -35,7 +52,7 @@ OnvifProfileVector::OnvifProfileVector() = default;
 OnvifProfileVector::OnvifProfileVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Profiles"_s, [this](const XmlResponseNode &node) { return profileFrom(response, node); });
+    appendElements(*this, u"/Profiles"_s, profileFrom);
 }
 
 OnvifProfileVector::OnvifProfileVector(const OnvifProfileVector &other) = default;

@@ -2,8 +2,11 @@
 
 #include <QtCore/QByteArrayView>
 #include <QtCore/QStringDecoder>
+#include <QtCore/QtEndian>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <initializer_list>
 #include <optional>
 #include <string_view>
@@ -67,6 +70,17 @@ QByteArrayView declaredEncoding(QByteArrayView bytes)
     return end < 0 ? QByteArrayView() : rest.sliced(1, end - 1);
 }
 
+/// \a name in the form in which names are compared: case, "-" and "_" do not count.
+QByteArray comparable(QByteArrayView name)
+{
+    QByteArray result;
+    for (const char c : name) {
+        if (c != '-' && c != '_')
+            result += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    }
+    return result;
+}
+
 /// Decodes by the name in the XML declaration, unless that is UTF-8 or of no use.
 std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
 {
@@ -75,13 +89,12 @@ std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
         return std::nullopt;
     if (!isEncodingName(declared))
         return std::nullopt;
-    const QByteArray name = declared.toByteArray();
-    const auto encoding = QStringConverter::encodingForName(name.constData());
-    if (encoding == QStringConverter::Utf8)
+    const QByteArray name = comparable(declared);
+    if (name == "utf8")
         return std::nullopt;
-    if (encoding == QStringConverter::System) // what a reply says must not depend on the client's locale
+    if (name == "locale") // Qt's name for that of the client, on which it must not depend what a reply says
         return std::nullopt;
-    QStringDecoder decoder(name.constData());
+    QStringDecoder decoder(declared.toByteArray().constData());
     if (!decoder.isValid())
         return std::nullopt;
     QString text = decoder(bytes);
@@ -92,6 +105,24 @@ std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
     return text;
 }
 
+/// UTF-32 with U+FFFD for each number beyond Unicode, of which QStringDecoder makes other characters in some versions.
+QString decodedFromUtf32(QByteArrayView bytes, bool isBigEndian)
+{
+    QString text;
+    text.reserve(bytes.size() / 4);
+    for (; bytes.size() >= 4; bytes = bytes.sliced(4)) {
+        const auto number =
+            isBigEndian ? qFromBigEndian<char32_t>(bytes.data()) : qFromLittleEndian<char32_t>(bytes.data());
+        if (number <= QChar::LastValidCodePoint)
+            text += QStringView(QChar::fromUcs4(number));
+        else
+            text += QChar::ReplacementCharacter;
+    }
+    if (text.startsWith(QChar::ByteOrderMark))
+        text.remove(0, 1);
+    return text;
+}
+
 std::optional<QString> decodedFromOtherThanUtf8(const QByteArray &bytes)
 {
     const auto detected = detectedEncoding(bytes);
@@ -99,8 +130,48 @@ std::optional<QString> decodedFromOtherThanUtf8(const QByteArray &bytes)
         return decodedAsDeclared(bytes);
     if (detected == QStringConverter::Utf8)
         return std::nullopt;
+    if (detected == QStringConverter::Utf32LE || detected == QStringConverter::Utf32BE)
+        return decodedFromUtf32(bytes, detected == QStringConverter::Utf32BE);
     QStringDecoder decoder(*detected);
     return decoder(bytes);
+}
+
+/// Looks at four characters at once. True for some that are no surrogates, too.
+bool mayHoldSurrogates(QStringView text)
+{
+    const char16_t *next = text.utf16();
+    const char16_t *const end = next + text.size();
+    std::uint64_t allBits = 0;
+    for (; end - next >= 4; next += 4) {
+        std::uint64_t characters = 0;
+        std::memcpy(&characters, next, sizeof characters);
+        allBits |= characters;
+    }
+    for (; next != end; ++next)
+        allBits |= *next;
+    return (allBits & 0x8000800080008000U) != 0;
+}
+
+/// \a text with a question mark in place of each surrogate that is none of a pair. QString::toUtf8() leaves it out in
+/// some versions.
+QString withLoneSurrogatesReplaced(const QString &text)
+{
+    QString result = text;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        if (isPair)
+            ++i;
+        else if (text[i].isSurrogate())
+            result[i] = QLatin1Char('?');
+    }
+    return result;
+}
+
+QByteArray toUtf8(const QString &text)
+{
+    if (mayHoldSurrogates(text) && !text.isValidUtf16())
+        return withLoneSurrogatesReplaced(text).toUtf8();
+    return text.toUtf8();
 }
 
 /// \a bytes with U+FFFD in place of each NUL. In one pass: QByteArray::replace() moves all that follows again and
@@ -126,7 +197,7 @@ DecodedReply decodeReply(const QByteArray &bytes)
     DecodedReply reply;
     if (auto text = decodedFromOtherThanUtf8(bytes)) {
         reply.text = *std::move(text);
-        reply.utf8 = reply.text.toUtf8();
+        reply.utf8 = toUtf8(reply.text);
     } else {
         reply.text = QString::fromUtf8(bytes);
         reply.utf8 = bytes;

@@ -6,6 +6,27 @@
 #include <QtCore/QVarLengthArray>
 
 namespace vorn {
+namespace {
+
+// QDomDocument looks at names, texts and CDATA sections when it makes a node: by
+// QDomImplementation::invalidDataPolicy(), which any part of the program may set, it takes them as they are, leaves out
+// what XML forbids, or makes no node at all. What a reply is read as must not depend on that. So nodes are made with
+// what no policy objects to, and are given afterwards what they hold, which nobody looks at.
+
+QDomElement newElement(QDomDocument &owner, const QString &name)
+{
+    QDomElement element = owner.createElement(QStringLiteral("e"));
+    element.setTagName(name);
+    return element;
+}
+
+void append(QDomElement &element, QDomCharacterData &&node, const QString &data)
+{
+    node.setData(data);
+    element.appendChild(node);
+}
+
+} // namespace
 
 NodeBuilder::NodeBuilder(QDomDocument &owner)
     : m_owner(owner)
@@ -26,7 +47,7 @@ void NodeBuilder::fill(XmlResponseNode &node, pugi::xml_node source)
     const Name &elementName = name(source.name());
     node.valid = true;
     node.name = elementName.local;
-    node.element = m_owner.createElement(elementName.qualified);
+    node.element = newElement(m_owner, elementName.qualified);
     setAttributes(node.element, source);
     appendContent(node, source);
 }
@@ -59,7 +80,7 @@ void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
 {
     const char *ownText = source.value();
     if (isCharacterData(pugi::node_pcdata, ownText))
-        node.element.appendChild(m_owner.createTextNode(value(ownText)));
+        append(node.element, m_owner.createTextNode({}), value(ownText));
 
     QVarLengthArray<pugi::xml_node, 16> content; // walked over twice, to know how much room the elements need
     qsizetype elementCount = 0;
@@ -75,9 +96,9 @@ void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
             fill(childNode, child);
             node.element.appendChild(childNode.element);
         } else if (child.type() == pugi::node_cdata) {
-            node.element.appendChild(m_owner.createCDATASection(value(child.value())));
+            append(node.element, m_owner.createCDATASection({}), value(child.value()));
         } else if (isCharacterData(child.type(), child.value())) {
-            node.element.appendChild(m_owner.createTextNode(value(child.value())));
+            append(node.element, m_owner.createTextNode({}), value(child.value()));
         }
     }
 }

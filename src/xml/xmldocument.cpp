@@ -2,6 +2,7 @@
 
 #include "encoding.h"
 #include "path.h"
+#include "references.h"
 #include "xmlnames.h"
 
 namespace vorn {
@@ -32,14 +33,29 @@ bool hasSoleElement(const pugi::xml_document &tree)
     return first.type() == pugi::node_element && !first.next_sibling();
 }
 
-pugi::xml_node descend(pugi::xml_node node, QStringView path)
+/// Resolves the references in all values, in place as the parser does it.
+class ReferenceResolver : public pugi::xml_tree_walker
 {
-    while (node && !path.isEmpty())
-        node = firstNamed(node.first_child(), takeComponent(path));
-    return node;
-}
+    bool for_each(pugi::xml_node &node) override
+    {
+        if (node.type() != pugi::node_cdata)
+            resolveReferences(const_cast<char *>(node.value()));
+        for (const pugi::xml_attribute attribute : node.attributes())
+            resolveReferences(const_cast<char *>(attribute.value()));
+        return true;
+    }
+};
 
 } // namespace
+
+pugi::xml_node descend(pugi::xml_node node, QAnyStringView path)
+{
+    return path.visit([node](auto rest) mutable {
+        while (node && !rest.isEmpty())
+            node = firstNamed(node.first_child(), takeComponent(rest));
+        return node;
+    });
+}
 
 XmlDocument::XmlDocument(const QByteArray &bytes, const QString &root)
 {
@@ -48,9 +64,17 @@ XmlDocument::XmlDocument(const QByteArray &bytes, const QString &root)
 
     // parse_fragment keeps text beside the document element, which would else be skipped. parse_embed_pcdata saves the
     // node for the text of a leaf.
-    constexpr unsigned int options = pugi::parse_default | pugi::parse_fragment | pugi::parse_embed_pcdata;
+    unsigned int options = pugi::parse_default | pugi::parse_fragment | pugi::parse_embed_pcdata;
+    // With a reference to 0 the parser would end the value, and take a number that is too high for another.
+    const bool holdsBadReferences = holdsReferenceToNoCharacter(reply.utf8);
+    if (holdsBadReferences)
+        options &= ~static_cast<unsigned int>(pugi::parse_escapes);
     const auto size = static_cast<std::size_t>(reply.utf8.size());
     const bool parsed = m_tree.load_buffer(reply.utf8.constData(), size, options, pugi::encoding_utf8);
+    if (holdsBadReferences) {
+        ReferenceResolver resolver;
+        m_tree.traverse(resolver);
+    }
 
     if (parsed && hasSoleElement(m_tree) && keepsDepth(m_tree, size))
         m_root = descend(m_tree.root(), root);
@@ -58,7 +82,7 @@ XmlDocument::XmlDocument(const QByteArray &bytes, const QString &root)
         m_tree.reset();
 }
 
-pugi::xml_node XmlDocument::find(QStringView path) const
+pugi::xml_node XmlDocument::find(QAnyStringView path) const
 {
     const pugi::xml_node node = descend(m_root, path);
     return node.type() == pugi::node_element ? node : pugi::xml_node();

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QtCore/QAnyStringView>
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
-#include <QtCore/QStringView>
 #include <pugixml.hpp>
 
 namespace vorn {
+
+/// The element at \a path below \a node, which may be the parent of the document element; \a node itself if the path is
+/// empty. Null if there is none.
+pugi::xml_node descend(pugi::xml_node node, QAnyStringView path);
 
 /// The text of a reply and its tree, parsed once and never changed, so that copies of a response share it without a
 /// lock.
@@ -20,7 +24,7 @@ public:
     pugi::xml_node root() const { return m_root; }
 
     /// The element at \a path below the root path; null if it is missing.
-    pugi::xml_node find(QStringView path) const;
+    pugi::xml_node find(QAnyStringView path) const;
 
 private:
     QString m_text;

@@ -1,4 +1,5 @@
 #include "nodebuilder.h"
+#include "numbers.h"
 #include "path.h"
 #include "xmldocument.h"
 #include "xmlnames.h"
@@ -89,7 +90,7 @@ QList<XmlResponseNode> XmlResponse::getAll(const QString &path)
     auto element = pugi::xml_node(find(path));
     while (element) {
         nodes.append(builder.node(element));
-        element = firstNamed(element.next_sibling(), nodes.constFirst().name);
+        element = nextNamesake(element);
     }
     return nodes;
 }
@@ -116,7 +117,7 @@ unsigned int XmlResponse::getUInt(const QString &path)
 
 unsigned int XmlResponse::getUInt(const XmlResponseNode &node, const QString &path)
 {
-    return getText(node, path).toUInt();
+    return toUInt(getText(node, path));
 }
 
 bool XmlResponse::getBool(const QString &path)
@@ -126,11 +127,17 @@ bool XmlResponse::getBool(const QString &path)
 
 QString XmlResponse::getAttribute(const QString &attribute, const QString &path)
 {
-    for (const pugi::xml_attribute candidate : pugi::xml_node(find(path)).attributes()) {
-        if (equals(candidate.name(), attribute))
-            return toQString(candidate.value());
-    }
-    return {};
+    return XmlElementView(find(path)).attribute(attribute);
+}
+
+XmlElementView XmlResponse::view(QAnyStringView path) const
+{
+    return XmlElementView(m_document ? m_document->find(path).internal_object() : nullptr);
+}
+
+XmlElementViews XmlResponse::viewAll(QAnyStringView path) const
+{
+    return {view(path), true};
 }
 
 pugi::xml_node_struct *XmlResponse::find(const QString &path)

@@ -1,5 +1,8 @@
 #include "xmltext.h"
 
+#include "numbers.h"
+#include "xmlnames.h"
+
 #include <QtCore/QByteArrayView>
 #include <QtCore/QStringDecoder>
 #include <QtCore/QVarLengthArray>
@@ -110,17 +113,28 @@ QString textOf(pugi::xml_node element)
     return text.isNull() ? QString(QLatin1String("")) : text;
 }
 
+bool hasText(pugi::xml_node element, QAnyStringView text)
+{
+    if (!element)
+        return false;
+    if (!element.first_child() && !isBlank(element.value()))
+        return text.visit([element](auto view) { return equals(element.value(), view); });
+    return textOf(element) == text.toString();
+}
+
 unsigned int uintOf(pugi::xml_node element)
 {
-    if (!element.first_child()) { // nothing, or one piece of text, which nearly always is a few digits
-        const char *next = element.value();
-        unsigned int number = 0;
-        for (int digits = 0; digits < 9 && *next >= '0' && *next <= '9'; ++digits)
-            number = 10 * number + static_cast<unsigned int>(*next++ - '0');
-        if (*next == '\0')
-            return number;
-    }
-    return TransientText(element).view().toUInt();
+    return element.first_child() ? toUInt(TransientText(element).view()) : toUInt(QByteArrayView(element.value()));
+}
+
+int intOf(pugi::xml_node element)
+{
+    return element.first_child() ? toInt(TransientText(element).view()) : toInt(QByteArrayView(element.value()));
+}
+
+double doubleOf(pugi::xml_node element)
+{
+    return element.first_child() ? toDouble(TransientText(element).view()) : toDouble(QByteArrayView(element.value()));
 }
 
 bool boolOf(pugi::xml_node element)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QAnyStringView>
 #include <QtCore/QString>
 #include <pugixml.hpp>
 
@@ -15,8 +16,11 @@ bool isCharacterData(pugi::xml_node_type type, const char *utf8);
 /// What `QDomElement::text()` gives for \a element: null if it is missing, empty if it has no text.
 QString textOf(pugi::xml_node element);
 
-/// What `textOf(element).toUInt()` and a comparison with the words for true give, without a QString.
-unsigned int uintOf(pugi::xml_node element);
-bool boolOf(pugi::xml_node element);
+// The same as what is said of textOf(element), without a QString.
+bool hasText(pugi::xml_node element, QAnyStringView text); ///< not null and equal to \a text
+unsigned int uintOf(pugi::xml_node element);               ///< toUInt()
+int intOf(pugi::xml_node element);                         ///< toInt()
+double doubleOf(pugi::xml_node element);                   ///< toDouble()
+bool boolOf(pugi::xml_node element);                       ///< trimmed, one of the words for true
 
 } // namespace vorn

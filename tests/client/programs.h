@@ -2,6 +2,7 @@
 
 // Runs camera-report and simulated-device, which talk to each other over sockets on loopback.
 
+#include "support/patience.h"
 #include "support/printing.h"
 
 #include <QtCore/QFile>
@@ -15,9 +16,6 @@
 #include <gtest/gtest.h>
 
 namespace test {
-
-/// How long a program may take for what takes it a moment, on a machine that has much else to do.
-constexpr int patience = 120000;
 
 inline QString samples(const QString &name)
 {
@@ -126,6 +124,27 @@ inline Result report(const SimulatedDevice &device, const QStringList &arguments
     for (const QString &argument : arguments)
         filledIn += device.filledIn(argument);
     return report(filledIn);
+}
+
+/// Has \a search take longer each time until it has printed \a text as often as \a times: nobody knows how long an
+/// answer takes on a machine that has much else to do.
+template <typename Search>
+Result searchUntil(const QString &text, qsizetype times, const Search &search)
+{
+    Result result;
+    for (const char *seconds : {"0.5", "2", "8", "32", "120"}) {
+        result = search(QStringList{"--timeout", seconds});
+        if (result.output.count(text) >= times)
+            break;
+    }
+    return result;
+}
+
+/// Searches for \a device until \a text is printed as often as \a times.
+inline Result search(const SimulatedDevice &device, const QStringList &arguments, const QString &text,
+                     qsizetype times = 1)
+{
+    return searchUntil(text, times, [&](const QStringList &timeout) { return report(device, arguments + timeout); });
 }
 
 } // namespace test

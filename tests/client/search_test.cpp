@@ -1,9 +1,11 @@
 // Looking for cameras.
 
 #include "client/programs.h"
+#include "samples/samples.h"
 
 #include <QtCore/QSet>
 #include <QtNetwork/QHostAddress>
+#include <QtNetwork/QNetworkDatagram>
 #include <QtNetwork/QNetworkInterface>
 #include <QtNetwork/QUdpSocket>
 
@@ -12,6 +14,7 @@ namespace {
 using test::report;
 using test::Result;
 using test::samples;
+using test::search;
 using test::SimulatedDevice;
 
 /// The addresses that a search has listed, one from each line.
@@ -40,7 +43,7 @@ QString loopbackName()
 TEST(Search, listsWhoAnswers)
 {
     const SimulatedDevice device({samples("many-namespaces")});
-    const Result result = report(device, {"--probe-address", "{probe}", "--timeout", "3"});
+    const Result result = search(device, {"--probe-address", "{probe}"}, "\n");
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(
@@ -51,7 +54,7 @@ TEST(Search, listsWhoAnswers)
 TEST(Search, listsEachOfTwoHundredOnce)
 {
     const SimulatedDevice devices({samples("short-prefixes"), "--devices", "200"});
-    const Result result = report(devices, {"--probe-address", "{probe}", "--timeout", "6"});
+    const Result result = search(devices, {"--probe-address", "{probe}"}, "\n", 200);
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output.count('\n'), 200);
     EXPECT_EQ(listed(result.output), setOf(devices.addresses()));
@@ -62,16 +65,16 @@ TEST(Search, reachesDevicesByMulticast)
     const SimulatedDevice device({samples("short-prefixes"), "--devices", "3"});
     if (!device.takesMulticast())
         GTEST_SKIP() << "The loopback interface of this machine does not take multicast.";
-    const Result result = report({"--interface", loopbackName(), "--timeout", "3"});
-    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     // Others may answer, too: whoever listens on this machine.
+    const Result result = search(device, {"--interface", loopbackName()}, device.addresses().last() + ": ");
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     EXPECT_TRUE(listed(result.output).contains(setOf(device.addresses()))) << result.output.toStdString();
 }
 
 TEST(Search, reportsOnAllThatItFinds)
 {
     const SimulatedDevice devices({samples("undeclared-prefixes"), "--devices", "3"});
-    const Result result = report(devices, {"--probe-address", "{probe}", "--all", "--timeout", "3"});
+    const Result result = search(devices, {"--probe-address", "{probe}", "--all"}, "Model: PTZ 30x\n", 3);
     EXPECT_EQ(result.exitCode, 1); // the folder has no replies to some requests
     for (const QString &address : devices.addresses())
         EXPECT_TRUE(result.output.contains(QString("\nCamera at %1\n\nDevice\n").arg(address)))
@@ -82,7 +85,7 @@ TEST(Search, reportsOnAllThatItFinds)
 TEST(Search, asksNobodyButWhoAnswered)
 {
     const SimulatedDevice device({samples("short-prefixes"), "--keep-addresses"});
-    const Result result = report(device, {"--probe-address", "{probe}", "--all", "--timeout", "3"});
+    const Result result = search(device, {"--probe-address", "{probe}", "--all"}, "\n");
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.output, "10.1.2.3:8080: BULLET-4K (Video)\n");
     EXPECT_EQ(result.errors,
@@ -93,7 +96,7 @@ TEST(Search, asksNobodyButWhoAnswered)
 TEST(Search, printsJson)
 {
     const SimulatedDevice device({samples("many-namespaces")});
-    const Result result = report(device, {"--probe-address", "{probe}", "--json", "--timeout", "3"});
+    const Result result = search(device, {"--probe-address", "{probe}", "--json"}, "\n");
     const QJsonObject expected{{"sender", "127.0.0.1"},
                                {"addresses", QJsonArray{device.address(), "https://192.168.7.20"}},
                                {"name", "Front Door"},
@@ -125,9 +128,20 @@ TEST(Search, endsWhereThePortIsClosed)
 
 TEST(Search, leavesOutWhatIsNoProbeMatch)
 {
-    const SimulatedDevice device(
-        {samples("short-prefixes"), "--answer", "ProbeMatches=" + samples("sloppy/ProbeMatchesNoScopes.xml")});
-    EXPECT_EQ(report(device, {"--probe-address", "{probe}", "--timeout", "1"}).exitCode, 3);
+    QUdpSocket device;
+    ASSERT_TRUE(device.bind(QHostAddress::LocalHost));
+    const QString address = QString("127.0.0.1:%1").arg(device.localPort());
+    const Result result = test::searchUntil("\n", 1, [&](const QStringList &timeout) {
+        QProcess process;
+        process.start(QStringLiteral(REPORT_PROGRAM), QStringList{"--quiet", "--probe-address", address} + timeout);
+        EXPECT_TRUE(device.waitForReadyRead(test::patience));
+        const QNetworkDatagram probe = device.receiveDatagram();
+        for (const char *sample : {"sloppy/ProbeMatchesNoScopes.xml", "many-namespaces/ProbeMatches.xml"})
+            device.writeDatagram(probe.makeReply(test::contentsOf(samples(sample))));
+        return test::resultOf(process);
+    });
+    EXPECT_EQ(result.output, "192.168.7.20, [2001:db8::20]:8080, 169.254.12.7, [fe80::a1b:2cff:fe3d:4e5f]: "
+                             "Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n");
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "core/listrecord.h"
+#include "support/nodes.h"
 #include "support/printing.h"
 
 #include <vorn/onvif/bases.h>
@@ -7,7 +8,7 @@
 
 using vorn::OnvifDataStructure;
 using vorn::OnvifResponseStructure;
-using vorn::XmlResponseNode;
+using vorn::RecordElement;
 
 namespace {
 
@@ -18,12 +19,6 @@ struct Element : OnvifDataStructure
 
     Element() = default;
 
-    explicit Element(const XmlResponseNode &node)
-        : OnvifDataStructure(node.element.isNull())
-        , text(node.element.text())
-    {
-    }
-
     Element(const Element &other)
         : OnvifDataStructure(other)
         , text(other.text)
@@ -33,6 +28,11 @@ struct Element : OnvifDataStructure
 
     Element &operator=(const Element &) = default;
 };
+
+void readValue(const RecordElement &element, Element &record)
+{
+    record.text = element.text();
+}
 
 struct ElementVector : QList<Element>, OnvifResponseStructure
 {
@@ -90,6 +90,26 @@ TEST(AppendElements, putsElementsThroughTheirOwnCopyOperation)
     const ElementVector list("<r><Item/></r>", "/r");
     ASSERT_EQ(list.size(), 1);
     EXPECT_TRUE(list[0].copied);
+}
+
+struct Items : QList<Element>
+{
+};
+
+TEST(ReadList, replacesWhatTheListHoldsByTheChildrenOfOneName)
+{
+    const QByteArray xml = "<Element><Item>1</Item><Other/><x:Item>2</x:Item></Element>";
+    const vorn::XmlResponse response(xml, QString());
+    const vorn::XmlResponseNode node = test::nodeOf(xml);
+    for (const RecordElement &element : {RecordElement(node), RecordElement(response.view(u"/Element"))}) {
+        Items items;
+        items.resize(3);
+        vorn::readList(element, "Item", items);
+        ASSERT_EQ(items.size(), 2);
+        EXPECT_EQ(items[0].text, "1");
+        EXPECT_EQ(items[1].text, "2");
+        EXPECT_FALSE(items[1].isNull());
+    }
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "core/readchildren.h"
+#include "core/queries.h"
 #include "support/nodes.h"
 #include "support/printing.h"
 
@@ -6,19 +6,42 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <type_traits>
 
 using vorn::field;
 using vorn::nested;
+using vorn::query;
 using vorn::readChildren;
+using vorn::readFirstChildren;
+using vorn::readQueries;
+using vorn::RecordElement;
+using vorn::XmlResponse;
 using vorn::XmlResponseNode;
 
 namespace {
 
-/// A field of type \a Value that held \a value, after the children "A" of an element with \a children were read.
+/// Two answers that are the same, NaN and the sign of zero included.
+template <typename Value>
+bool areSame(const Value &left, const Value &right)
+{
+    if constexpr (std::is_same_v<Value, double>)
+        return std::memcmp(&left, &right, sizeof left) == 0;
+    else
+        return left == right;
+}
+
+/// A field of type \a Value that held \a value, after the children "A" of an element with \a children were read: from a
+/// node, and from a view of the same element, which has to give the same.
 template <typename Value>
 Value read(const QByteArray &children, Value value)
 {
-    readChildren(test::nodeOf(test::element("Element", children)), {field("A", value)});
+    const QByteArray xml = test::element("Element", children);
+    const XmlResponse response(xml, QString());
+    Value viewed = value;
+    readChildren(RecordElement(response.view(u"/Element")), {field("A", viewed)});
+    readChildren(test::nodeOf(xml), {field("A", value)});
+    EXPECT_TRUE(areSame(viewed, value)) << xml.toStdString();
     return value;
 }
 
@@ -40,7 +63,7 @@ TEST(ReadChildren, leavesFieldsForAMissingNode)
 {
     QString text = "before";
     int calls = 0;
-    readChildren(XmlResponseNode(), {field("A", text), nested("", [&calls](const XmlResponseNode &) { ++calls; })});
+    readChildren(XmlResponseNode(), {field("A", text), nested("", [&calls](const RecordElement &) { ++calls; })});
     EXPECT_EQ(text, "before");
     EXPECT_EQ(calls, 0);
 }
@@ -202,43 +225,87 @@ TEST(ReadChildren, readsBooleansOfTheWordTrueAlone)
         EXPECT_FALSE(read("<A>true</A>" + test::element("A", text), true)) << text;
 }
 
-struct Record
-{
-    QString name;
-
-    Record() = default;
-
-    explicit Record(const XmlResponseNode &node)
-        : name(node.name)
-    {
-    }
-};
-
-TEST(ReadChildren, replacesARecord)
-{
-    Record record;
-    record.name = "before";
-    readChildren(test::nodeOf("<Element><B/></Element>"), {field("A", record)});
-    EXPECT_EQ(record.name, "before");
-    readChildren(test::nodeOf("<Element><A/></Element>"), {field("A", record)});
-    EXPECT_EQ(record.name, "A");
-}
-
 TEST(ReadChildren, handsEachChildToAFunction)
 {
     QStringList texts;
-    readChildren(
-        test::nodeOf("<Element><A>1</A><B>2</B><A>3</A></Element>"),
-        {nested("A", [&texts](const XmlResponseNode &child) { texts.append(child.name + child.element.text()); })});
-    EXPECT_EQ(texts, QStringList({"A1", "A3"}));
+    readChildren(test::nodeOf("<Element><A>1</A><B>2</B><A>3</A></Element>"),
+                 {nested("A", [&texts](const RecordElement &child) { texts.append(child.text()); })});
+    EXPECT_EQ(texts, QStringList({"1", "3"}));
 }
 
 TEST(ReadChildren, functionsMayReadFurtherChildren)
 {
     int value = 0;
     readChildren(test::nodeOf("<Element><C>1</C><B><C>2</C></B></Element>"),
-                 {nested("B", [&value](const XmlResponseNode &child) { readChildren(child, {field("C", value)}); })});
+                 {nested("B", [&value](const RecordElement &child) { readChildren(child, {field("C", value)}); })});
     EXPECT_EQ(value, 2);
+}
+
+TEST(ReadFirstChildren, firstOfSeveralChildrenCounts)
+{
+    const QByteArray xml = "<Element><B>0</B><A>1</A><A>2</A><B>3</B></Element>";
+    const XmlResponse response(xml, QString());
+    const XmlResponseNode node = test::nodeOf(xml);
+    for (const RecordElement &element : {RecordElement(node), RecordElement(response.view(u"/Element"))}) {
+        int a = 5;
+        int b = 5;
+        int c = 5;
+        readFirstChildren(element, {field("A", a), field("B", b), field("C", c)});
+        EXPECT_EQ(a, 1);
+        EXPECT_EQ(b, 0);
+        EXPECT_EQ(c, 5);
+    }
+}
+
+TEST(ReadFirstChildren, theLastOfManyReadersIsOneOfThem)
+{
+    int first = 0;
+    int last = 0;
+    int none = 0;
+    std::initializer_list<vorn::ChildReader> readers = {
+        field("A", first), field("-", none), field("-", none), field("-", none), field("-", none), field("-", none),
+        field("-", none),  field("-", none), field("-", none), field("-", none), field("-", none), field("-", none),
+        field("-", none),  field("-", none), field("-", none), field("-", none), field("-", none), field("-", none),
+        field("-", none),  field("-", none), field("-", none), field("-", none), field("-", none), field("-", none),
+        field("-", none),  field("-", none), field("-", none), field("-", none), field("-", none), field("-", none),
+        field("-", none),  field("Z", last)};
+    ASSERT_EQ(readers.size(), 32U);
+    readFirstChildren(test::nodeOf("<Element><Z>1</Z><Z>2</Z><A>3</A><A>4</A></Element>"), readers);
+    EXPECT_EQ(last, 1);
+    EXPECT_EQ(first, 3);
+}
+
+TEST(ReadQueries, readsTheFirstElementAtEachPath)
+{
+    XmlResponse response("<r><p><A>1</A><A>2</A></p><p><A>3</A><B>x</B></p></r>", "/r");
+    int a = 0;
+    QString b;
+    readQueries(response, QStringLiteral("/p"), {query("A", a), query("B", b)});
+    EXPECT_EQ(a, 1);
+    EXPECT_TRUE(b.isNull());
+}
+
+TEST(ReadQueries, leavesFieldsWhereTheParentIsMissing)
+{
+    XmlResponse response("<r/>", "/r");
+    QString text = "before";
+    readQueries(response, QStringLiteral("/p"), {query("A", text)});
+    EXPECT_EQ(text, "before");
+}
+
+// Unlike those of a walk.
+TEST(ReadQueries, booleansAreTrueForBothWordsOfXmlSchema)
+{
+    XmlResponse response("<r><A>1</A><B> true </B><C>TRUE</C><D/></r>", "/r");
+    bool a = false;
+    bool b = false;
+    bool c = true;
+    bool d = true;
+    readQueries(response, QString(), {query("A", a), query("B", b), query("C", c), query("D", d)});
+    EXPECT_TRUE(a);
+    EXPECT_TRUE(b);
+    EXPECT_FALSE(c);
+    EXPECT_FALSE(d);
 }
 
 } // namespace

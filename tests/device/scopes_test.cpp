@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <type_traits>
+#include <utility>
 
 using vorn::OnvifScope;
 using vorn::OnvifScopeMap;
@@ -114,6 +115,22 @@ TEST(OnvifScope, badPercentSequencesDoNoHarm)
     }
     for (const char *cutShort : {"%", "%1", "a%2"})
         EXPECT_EQ(OnvifScope(base + "name/" + cutShort).value, cutShort);
+}
+
+TEST(OnvifScope, percentSequencesOfOtherCharactersReadTheSameEverywhere)
+{
+    const std::pair<const char *, const char16_t *> rows[] = {
+        {"%G5", u"u"},      // of a character that is no digit, its code counts: 0x47 << 4 | 5
+        {"%5G", u"W"},      // 5 << 4 | 0x47
+        {"%zz", u"\uFFFD"}, // 0xFA
+        {"%:;", u"\uFFFD"}, // 0xBB
+        {"%%41", u"T1"},    // 0x25 << 4 | 4, then the rest
+        {"%4%31", u"e31"},  // 4 << 4 | 0x25
+        {"\u4E2D%E4%B8%AD", u"\u4E2D\u4E2D"},
+        {"%EF%BB%BFx", u"x"},
+    };
+    for (const auto &[written, value] : rows)
+        EXPECT_EQ(OnvifScope(base + "name/" + written).value, QStringView(value).toString()) << written;
 }
 
 TEST(OnvifScope, buildsAUriWithoutEncoding)

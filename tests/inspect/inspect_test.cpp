@@ -1,6 +1,7 @@
 // The program onvif-inspect: its options, exit codes and what it prints where.
 
 #include "samples/samples.h"
+#include "support/patience.h"
 #include "support/printing.h"
 
 #include <QtCore/QJsonArray>
@@ -28,7 +29,7 @@ Result inspect(const QStringList &arguments, const QByteArray &input = {})
     process.start(QStringLiteral(INSPECT_PROGRAM), arguments);
     process.write(input);
     process.closeWriteChannel();
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+    if (!process.waitForFinished(test::patience) || process.exitStatus() != QProcess::NormalExit)
         return {};
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }

@@ -1,6 +1,7 @@
 // Every sample is shown as the outline beside it says, and reads the same by every road.
 
 #include "samples.h"
+#include "support/patience.h"
 #include "support/printing.h"
 
 #include <vorn/util/xmlresponse.h>
@@ -23,7 +24,7 @@ TEST_P(Samples, areShownAsExpected)
 {
     QProcess inspect;
     inspect.start(QStringLiteral(INSPECT_PROGRAM), {GetParam().fileName()});
-    ASSERT_TRUE(inspect.waitForFinished());
+    ASSERT_TRUE(inspect.waitForFinished(test::patience));
     const QByteArray shown =
         inspect.readAllStandardOutput() + "exit code " + QByteArray::number(inspect.exitCode()) + "\n";
 

@@ -9,6 +9,7 @@ namespace {
 
 thread_local bool counting = false;
 thread_local std::size_t allocations = 0;
+thread_local std::size_t taken = 0;
 thread_local std::ptrdiff_t held = 0; // less than zero when more goes that was there before the counter
 thread_local std::ptrdiff_t peak = 0;
 
@@ -17,6 +18,7 @@ void countAllocation(std::size_t size)
     if (!counting)
         return;
     ++allocations;
+    taken += size;
     held += static_cast<std::ptrdiff_t>(size);
     peak = std::max(peak, held);
 }
@@ -90,6 +92,7 @@ namespace test {
 AllocationCounter::AllocationCounter()
 {
     allocations = 0;
+    taken = 0;
     held = 0;
     peak = 0;
     counting = true;
@@ -103,6 +106,11 @@ AllocationCounter::~AllocationCounter()
 std::size_t AllocationCounter::count() const
 {
     return allocations;
+}
+
+std::size_t AllocationCounter::takenBytes() const
+{
+    return taken;
 }
 
 std::ptrdiff_t AllocationCounter::heldBytes() const

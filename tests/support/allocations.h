@@ -15,6 +15,9 @@ public:
 
     std::size_t count() const;
 
+    /// All that has been taken since the start, whether it has gone again or not.
+    std::size_t takenBytes() const;
+
     /// What is held now of what has been taken since the start, less what has gone that was there before.
     std::ptrdiff_t heldBytes() const;
 

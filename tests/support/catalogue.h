@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/patience.h"
 #include "support/printing.h"
 
 #include <QtCore/QFile>
@@ -24,7 +25,7 @@ inline QMap<QString, QList<Message>> messagesByContext()
     lupdate.start(QStringLiteral(LUPDATE_PROGRAM),
                   {"-silent", "-extensions", "cpp,h", "-I", QStringLiteral(INCLUDE_FOLDER),
                    QStringLiteral(SOURCE_FOLDER), "-ts", catalogue});
-    EXPECT_TRUE(lupdate.waitForFinished()) << "lupdate does not run";
+    EXPECT_TRUE(lupdate.waitForFinished(test::patience)) << "lupdate does not run";
     EXPECT_EQ(lupdate.exitCode(), 0);
     EXPECT_EQ(lupdate.readAllStandardError(), QByteArray()) << "lupdate warns";
 

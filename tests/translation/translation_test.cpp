@@ -1,5 +1,6 @@
 // What an application does to show the library's texts in another language: docs/translating.md shows parts of this.
 
+#include "support/patience.h"
 #include "support/printing.h"
 
 #include <vorn/onvif/faults.h>
@@ -62,7 +63,7 @@ protected:
 
         QProcess lrelease;
         lrelease.start(QStringLiteral(LRELEASE_PROGRAM), {"-silent", file.fileName(), "-qm", compiled()});
-        ASSERT_TRUE(lrelease.waitForFinished()) << "lrelease does not run";
+        ASSERT_TRUE(lrelease.waitForFinished(test::patience)) << "lrelease does not run";
         ASSERT_EQ(lrelease.exitCode(), 0) << lrelease.readAllStandardError().constData();
     }
 

@@ -7,6 +7,9 @@
 #include <QtCore/QStringEncoder>
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+
 using vorn::XmlResponse;
 
 namespace {
@@ -23,6 +26,28 @@ QByteArray encoded(const QString &text, QStringConverter::Encoding encoding, boo
     QStringEncoder encoder(encoding,
                            byteOrderMark ? QStringConverter::Flag::WriteBom : QStringConverter::Flag::Default);
     return encoder(text);
+}
+
+/// As UTF-16LE, whatever surrogates \a text holds.
+QByteArray encodedAsUtf16(const QString &text)
+{
+    QByteArray bytes;
+    for (const QChar character : text) {
+        bytes += static_cast<char>(character.unicode() & 0xFF);
+        bytes += static_cast<char>(character.unicode() >> 8);
+    }
+    return bytes;
+}
+
+/// As UTF-32LE, whatever numbers \a text holds.
+QByteArray encodedAsUtf32(const std::u32string &text)
+{
+    QByteArray bytes;
+    for (const char32_t character : text) {
+        for (int shift = 0; shift < 32; shift += 8)
+            bytes += static_cast<char>(character >> shift & 0xFF);
+    }
+    return bytes;
 }
 
 void expectName(const QByteArray &reply, const char *what)
@@ -174,10 +199,42 @@ TEST(XmlResponseBytes, loneSurrogateOfUtf16IsReadAsAQuestionMark)
 {
     for (const QChar surrogate : {QChar(0xD800), QChar(0xDC00)}) {
         const QString text = QStringLiteral("<a>x") + surrogate + QStringLiteral("y</a>");
-        XmlResponse response(QByteArray(reinterpret_cast<const char *>(text.utf16()), 2 * text.size()), "");
+        XmlResponse response(encodedAsUtf16(text), "");
         EXPECT_EQ(response.getText("/a"), "x?y");
         EXPECT_EQ(response.xml(), text);
     }
+}
+
+TEST(XmlResponseBytes, loneSurrogateOfUtf32IsReadAsAQuestionMark)
+{
+    const char32_t text[] = U"<a>x_y_\U0001F600</a>";
+    std::u32string document(text);
+    document[4] = 0xD800;
+    document[6] = 0xDC00;
+    XmlResponse response(encodedAsUtf32(document), "");
+    EXPECT_EQ(response.getText("/a"), QStringLiteral(u"x?y?\U0001F600"));
+}
+
+TEST(XmlResponseBytes, numberBeyondUnicodeInUtf32IsReadAsAReplacementCharacter)
+{
+    for (const char32_t number : {0x110000U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
+        XmlResponse response(encodedAsUtf32(U"<a>x" + std::u32string(1, number) + U"y</a>"), "");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"x\uFFFDy"));
+        EXPECT_EQ(response.xml(), QStringLiteral(u"<a>x\uFFFDy</a>"));
+    }
+}
+
+TEST(XmlResponseBytes, characterThatIsCutShortAtTheEndOfAReplyIsIgnored)
+{
+    const QString text = "<a>1</a>";
+    for (const int more : {1, 2, 3}) {
+        XmlResponse response(encodedAsUtf32(text.toStdU32String()) + QByteArray(more, '\x20'), "");
+        EXPECT_EQ(response.getText("/a"), "1");
+        EXPECT_EQ(response.xml(), text);
+    }
+    XmlResponse response(encoded(text, QStringConverter::Utf16LE, false) + '\x20', "");
+    EXPECT_EQ(response.getText("/a"), "1");
+    EXPECT_EQ(response.xml(), text);
 }
 
 TEST(XmlResponseBytes, loneContinuationByteIsIllFormed)
@@ -220,11 +277,42 @@ TEST(XmlResponseBytes, nulsBesideTheDocumentElementAreText)
 
 TEST(XmlResponseBytes, referenceToNoCharacterHarmsItsOwnValueOnly)
 {
-    XmlResponse response("<r><a>x&#0;y</a><b>&#xD800;</b><c>&#x110000;</c><d>&#99999999999;</d><e>ok</e></r>", "/r");
-    for (const char *path : {"/a", "/b", "/c", "/d", "/e"})
-        EXPECT_EQ(response.getText(path), response.get(path).element.text()) << path;
-    EXPECT_EQ(response.getText("/a"), "x") << "a reference to NUL ends its value";
-    EXPECT_EQ(response.getText("/e"), "ok");
+    for (const char *reference :
+         {"&#0;", "&#x0;", "&#000;", "&#xD800;", "&#xDFFF;", "&#55296;", "&#x110000;", "&#1114112;", "&#4294967296;",
+          "&#4294967361;", "&#x100000041;", "&#18446744073709551681;", "&#x10000000000000041;",
+          "&#99999999999999999999999999999999999999999;"}) {
+        XmlResponse response(QByteArray("<r k='x@y'>@<a>x@y@</a><!--@-->@<b><![CDATA[@]]></b><e>&lt;ok&#65;</e></r>")
+                                 .replace('@', reference),
+                             "/r");
+        EXPECT_EQ(response.getText("/a"), QStringLiteral(u"x\uFFFDy\uFFFD")) << reference;
+        EXPECT_EQ(response.get("/a").element.text(), QStringLiteral(u"x\uFFFDy\uFFFD")) << reference;
+        EXPECT_EQ(response.getAttribute("k", ""), QStringLiteral(u"x\uFFFDy")) << reference;
+        EXPECT_EQ(response.get("").element.attribute("k"), QStringLiteral(u"x\uFFFDy")) << reference;
+        EXPECT_EQ(response.getText("/b"), reference) << "in a CDATA section it is none";
+        EXPECT_EQ(response.getText("/e"), "<okA") << reference;
+    }
+}
+
+TEST(XmlResponseBytes, otherReferencesReadTheSameBesideOneToNoCharacter)
+{
+    const std::pair<QByteArray, const char16_t *> rows[] = {
+        {"&lt;&gt;&amp;&quot;&apos;", u"<>&\"'"},
+        {"&amp;lt;", u"&lt;"},
+        {"&amp;#65;", u"&#65;"},
+        {"&#65;&#x42;&#x6a;&#x6A;", u"ABjj"},
+        {"&#1;&#9;&#10;&#13;", u"\u0001\t\n\r"},
+        {"&#xE9;&#x4E2D;&#x10FFFF;&#xFFFE;", u"\u00E9\u4E2D\U0010FFFF\uFFFE"},
+        {"&nbsp;&LT;&lt &gt", u"&nbsp;&LT;&lt &gt"},
+        {"&#;&#x;&#X41;&#65&#x41&#-1;&# 65;&#6 5;&#xG;", u"&#;&#x;&#X41;&#65&#x41&#-1;&# 65;&#6 5;&#xG;"},
+        {"& && &&lt;", u"& && &<"},
+        {"a\r\nb&#13;\r", u"a\nb\r\n"},
+    };
+    for (const auto &[written, text] : rows) {
+        for (const char *other : {"", "<b>&#0;</b>"}) {
+            XmlResponse response("<r><a>x" + written + "</a>" + other + "</r>", "/r");
+            EXPECT_EQ(response.getText("/a"), 'x' + QStringView(text).toString()) << written.constData() << other;
+        }
+    }
 }
 
 TEST(XmlResponseBytes, nullAndEmptyHaveNoText)

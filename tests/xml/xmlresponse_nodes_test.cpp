@@ -34,6 +34,30 @@ TEST(XmlResponseNode, hasItsFieldsInOrder)
     EXPECT_EQ(children.size(), 1);
 }
 
+TEST(XmlResponseNode, isTheSameUnderEachPolicyOfQtForInvalidData)
+{
+    const auto policy = QDomImplementation::invalidDataPolicy();
+    for (const auto other : {QDomImplementation::AcceptInvalidChars, QDomImplementation::DropInvalidChars,
+                             QDomImplementation::ReturnNullNode}) {
+        QDomImplementation::setInvalidDataPolicy(other);
+        XmlResponse response(
+            "<r><:odd \xC2\xB7='\x02v'>t\x01u</:odd><\xC2\xB7x/><:/><c><![CDATA[\x01\xEF\xBF\xBF]]></c></r>", "");
+        const XmlResponseNode node = response.get("/r");
+        QDomImplementation::setInvalidDataPolicy(policy);
+
+        ASSERT_EQ(node.children.size(), 4) << other;
+        EXPECT_EQ(node.children[0].name, "odd") << other;
+        EXPECT_EQ(node.children[0].element.tagName(), ":odd") << other;
+        EXPECT_EQ(node.children[0].element.text(), u"t\u0001u") << other;
+        EXPECT_EQ(node.children[0].element.attribute(QStringLiteral(u"\u00B7")), u"\u0002v") << other;
+        EXPECT_EQ(node.children[1].name, u"\u00B7x") << other;
+        EXPECT_EQ(node.children[1].element.tagName(), u"\u00B7x") << other;
+        EXPECT_EQ(node.children[2].element.tagName(), ":") << other;
+        EXPECT_EQ(node.children[3].element.text(), u"\u0001\uFFFF") << other;
+        EXPECT_EQ(node.element.childNodes().count(), 4) << other;
+    }
+}
+
 TEST(XmlResponseNode, nameHasNoPrefix)
 {
     XmlResponse response("<tt:r xmlns:tt='urn:t'><a:Name/><Plain/><:odd/></tt:r>", "");

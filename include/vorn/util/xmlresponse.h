@@ -5,13 +5,17 @@
 
 #include <vorn/util/export.h>
 
+#include <QtCore/QAnyStringView>
 #include <QtCore/QByteArray>
+#include <QtCore/QByteArrayView>
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtXml/QDomDocument>
 #include <QtXml/QDomElement>
 
 #include <array>
+#include <cstddef>
+#include <iterator>
 #include <memory>
 
 namespace pugi {
@@ -52,6 +56,168 @@ struct VORNSDK_UTIL_EXPORT XmlResponseNode
     ~XmlResponseNode();
 };
 
+class XmlElementViews;
+
+/// One element of a reply, looked at where it stands: nothing is made or copied but the values that are asked for.
+///
+/// A view is as small as a pointer, and making, copying and walking from one to the next allocates nothing. A
+/// default-constructed view is the missing one, and so is what leads to no element. It answers as a missing node does:
+/// no name, no text, no attributes, no children, 0 and false.
+///
+/// A view may be used as long as any copy of the XmlResponse that it came from holds the document: it is left dangling
+/// when the last of them is destroyed or assigned another document. Moving a response to one that lives on does it no
+/// harm. Views of one document may be read on several threads at once.
+///
+/// A name or path may be any string of Qt's, or a literal; what is no literal is looked at during the call only.
+class VORNSDK_UTIL_EXPORT XmlElementView
+{
+public:
+    /// The missing element.
+    constexpr XmlElementView() noexcept = default;
+
+    /// True when there is no such element.
+    constexpr bool isNull() const noexcept { return !m_element; }
+
+    /// Local name of the element, as XmlResponseNode::name. Null if it is missing.
+    QString name() const;
+
+    /// The same where it stands: UTF-8, as ill-formed as the reply. Empty if the element is missing.
+    QByteArrayView utf8Name() const noexcept;
+
+    /// Whether name() is \a name. Never true of a missing element.
+    bool hasName(QAnyStringView name) const;
+
+    /// The text of the element, exactly as `QDomElement::text()` gives it for that of a node: verbatim, with the text
+    /// of nested elements. Null if the element is missing.
+    QString text() const;
+
+    /// Whether text() is \a text. Never true of a missing element.
+    bool hasText(QAnyStringView text) const;
+
+    /// text() as a decimal number, with white space around it allowed; 0 if it is no such number or beyond the range of
+    /// the type. As XmlResponse::getUInt.
+    unsigned int toUInt() const;
+    int toInt() const; ///< As above.
+
+    /// text() as a number such as "-0.5" or "1e3", or "inf", "-inf" or "nan", with white space around it allowed; 0 if
+    /// it is none, infinite if it is too large.
+    double toDouble() const;
+
+    /// Whether text() is "true" or "1", with white space around it allowed. As XmlResponse::getBool.
+    bool toBool() const;
+
+    /// The value of the attribute \a name, exactly as `QDomElement::attribute()` gives it: the attribute is named as it
+    /// is written, with its prefix if it has one. Null if it is missing.
+    QString attribute(QAnyStringView name) const;
+
+    /// The element at \a path below this one: "/Resolution/Width" is the first "Width" in the first "Resolution".
+    /// Unlike a path with a node, it does not name the element itself. The empty path leads to the element itself.
+    XmlElementView at(QAnyStringView path) const;
+
+    XmlElementViews children() const;                    ///< All child elements, in document order.
+    XmlElementViews children(QAnyStringView name) const; ///< Those with the local name \a name.
+
+    /// Whether both are the same element of the same document, or both are missing. What they hold is not compared.
+    friend constexpr bool operator==(XmlElementView left, XmlElementView right) noexcept
+    {
+        return left.m_element == right.m_element;
+    }
+
+    friend constexpr bool operator!=(XmlElementView left, XmlElementView right) noexcept { return !(left == right); }
+
+private:
+    friend class XmlElementViews;
+    friend class XmlResponse;
+
+    explicit constexpr XmlElementView(pugi::xml_node_struct *element) noexcept
+        : m_element(element)
+    {
+    }
+
+    pugi::xml_node_struct *m_element = nullptr;
+};
+
+/// Elements beside each other, in document order, for a range-based for loop. May be used as long as a view of one of
+/// them.
+class VORNSDK_UTIL_EXPORT XmlElementViews
+{
+public:
+    /// Goes from one element to the next.
+    class VORNSDK_UTIL_EXPORT Iterator
+    {
+    public:
+        using iterator_category = std::input_iterator_tag;
+        using value_type = XmlElementView;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const XmlElementView *;
+        using reference = XmlElementView;
+
+        constexpr Iterator() noexcept = default;
+
+        constexpr XmlElementView operator*() const noexcept { return m_view; }
+
+        constexpr const XmlElementView *operator->() const noexcept { return &m_view; }
+
+        Iterator &operator++();
+
+        Iterator operator++(int)
+        {
+            const Iterator old = *this;
+            ++*this;
+            return old;
+        }
+
+        /// Of iterators of one range.
+        friend constexpr bool operator==(const Iterator &left, const Iterator &right) noexcept
+        {
+            return left.m_view == right.m_view;
+        }
+
+        friend constexpr bool operator!=(const Iterator &left, const Iterator &right) noexcept
+        {
+            return !(left == right);
+        }
+
+    private:
+        friend class XmlElementViews;
+
+        constexpr Iterator(XmlElementView view, bool ofOneName) noexcept
+            : m_view(view)
+            , m_ofOneName(ofOneName)
+        {
+        }
+
+        XmlElementView m_view;
+        bool m_ofOneName = false;
+    };
+
+    using const_iterator = Iterator;
+    using iterator = Iterator;
+    using value_type = XmlElementView;
+
+    /// None.
+    constexpr XmlElementViews() noexcept = default;
+
+    constexpr Iterator begin() const noexcept { return {m_first, m_ofOneName}; }
+
+    constexpr Iterator end() const noexcept { return {}; }
+
+    constexpr bool isEmpty() const noexcept { return m_first.isNull(); }
+
+private:
+    friend class XmlElementView;
+    friend class XmlResponse;
+
+    constexpr XmlElementViews(XmlElementView first, bool ofOneName) noexcept
+        : m_first(first)
+        , m_ofOneName(ofOneName)
+    {
+    }
+
+    XmlElementView m_first;
+    bool m_ofOneName = false; // that of the first; else all are meant
+};
+
 /// A parsed reply that answers queries by path.
 ///
 /// A path is a run of components, each with a leading slash: "/Envelope/Body/GetScopesResponse". A component is the
@@ -72,10 +238,11 @@ struct VORNSDK_UTIL_EXPORT XmlResponseNode
 ///
 /// Tolerated are ill-formed UTF-8 (each bad sequence reads as U+FFFD), NUL characters (read as U+FFFD, ignored at the
 /// end of the reply), white space before the XML declaration, a repeated attribute (the first counts) and references
-/// to unknown entities (they stay as written); a reference to the character 0 ends its value. Entities that a DTD
-/// declares are never expanded, and nothing outside the bytes is ever opened. A byte order mark decides the encoding,
-/// or the zero bytes of UTF-16 and UTF-32, else the XML declaration; without any of these, or if the declaration cannot
-/// be right, the bytes are read as UTF-8.
+/// to unknown entities (they stay as written); a reference to 0, to a surrogate or beyond Unicode reads as U+FFFD, one
+/// to any other character as that, and control characters stay as they are. Entities that a DTD declares are never
+/// expanded, and nothing outside the bytes is ever opened. A byte order mark decides the encoding, or the zero bytes of
+/// UTF-16 and UTF-32, else the XML declaration; without any of these, or if the declaration cannot be right, the bytes
+/// are read as UTF-8. A surrogate of UTF-16 or UTF-32 that is none of a pair reads as a question mark.
 ///
 /// Copies share the parsed document, which never changes. Each object belongs to one thread at a time; copies of one
 /// object may be used on different threads at once.
@@ -128,6 +295,12 @@ public:
     /// The value of \a attribute on the element at \a path, exactly as `QDomElement::attribute()` of that element gives
     /// it: the attribute is named as it is written, with its prefix if it has one. Null if either is missing.
     QString getAttribute(const QString &attribute, const QString &path);
+
+    /// The element at \a path, where it stands. It is the one that get() makes a node of, at a fraction of the cost.
+    XmlElementView view(QAnyStringView path) const;
+
+    /// The elements that getAll() makes nodes of, where they stand.
+    XmlElementViews viewAll(QAnyStringView path) const;
 
 private:
     pugi::xml_node_struct *find(const QString &path);
