@@ -46,9 +46,10 @@ HttpExchange::HttpExchange(QNetworkReply *reply, std::chrono::milliseconds timeo
             stop(TransportFailure::ReceiveFailure, QString("no complete reply within %1 s").arg(seconds));
         else
             stop(TransportFailure::NotConnected,
-                 QString("There was no connection to %1 within %2 s: check that it is on, and reached from here.")
+                 QString("There was no connection to %1 within %2 s: check that it is on, and reached from here%3.")
                      .arg(placeOf(m_result.url))
-                     .arg(seconds));
+                     .arg(seconds)
+                     .arg(m_result.url.scheme() == "https" ? " by TLS" : ""));
     });
     m_limit.setSingleShot(true);
     m_limit.start(timeout);
@@ -102,6 +103,8 @@ void HttpExchange::finish()
             m_result.failure = TransportFailure::NotTrusted;
         if (m_result.failure == TransportFailure::Other && !m_isSent)
             m_result.failure = TransportFailure::NotConnected;
+        if (m_result.failure == TransportFailure::EmptyReply && !m_isSent && m_result.url.scheme() == "https")
+            m_result.failure = TransportFailure::NoTls;
         m_result.failureText = failureText(m_result.failure);
     }
     m_done(m_result);

@@ -57,6 +57,10 @@ void Device::serve(QTcpSocket *socket)
     connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
         if (socket->bytesAvailable() > longestRequest)
             return socket->abort();
+        const char first = socket->peek(1).at(0);
+        const bool isHttp = first >= 'A' && first <= 'Z'; // which the handshake of TLS, for example, is not
+        if (!isHttp)
+            return socket->disconnectFromHost();
         const auto request = httpRequestIn(socket->peek(longestRequest));
         if (!request)
             return;

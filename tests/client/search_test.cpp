@@ -140,8 +140,9 @@ TEST(Search, leavesOutWhatIsNoProbeMatch)
             device.writeDatagram(probe.makeReply(test::contentsOf(samples(sample))));
         return test::resultOf(process);
     });
-    EXPECT_EQ(result.output, "192.168.7.20, [2001:db8::20]:8080, 169.254.12.7, [fe80::a1b:2cff:fe3d:4e5f]: "
-                             "Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n");
+    EXPECT_EQ(result.output,
+              "192.168.7.20, [2001:db8::20]:8080, 169.254.12.7, [fe80::a1b:2cff:fe3d:4e5f], https://192.168.7.20: "
+              "Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n");
 }
 
 } // namespace
