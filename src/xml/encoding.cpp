@@ -5,8 +5,6 @@
 #include <QtCore/QtEndian>
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <initializer_list>
 #include <optional>
 #include <string_view>
@@ -127,16 +125,19 @@ std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
 /// UTF-32 with U+FFFD for each number beyond Unicode, of which QStringDecoder makes other characters in some versions.
 QString decodedFromUtf32(QByteArrayView bytes, bool isBigEndian)
 {
-    QString text;
-    text.reserve(bytes.size() / 4);
+    QString text(bytes.size() / 2, Qt::Uninitialized); // enough for nothing but pairs
+    QChar *next = text.data();
     for (; bytes.size() >= 4; bytes = bytes.sliced(4)) {
         const auto number =
             isBigEndian ? qFromBigEndian<char32_t>(bytes.data()) : qFromLittleEndian<char32_t>(bytes.data());
-        if (number <= QChar::LastValidCodePoint)
-            text += QStringView(QChar::fromUcs4(number));
-        else
-            text += QChar::ReplacementCharacter;
+        if (QChar::requiresSurrogates(number) && number <= QChar::LastValidCodePoint) {
+            *next++ = QChar::highSurrogate(number);
+            *next++ = QChar::lowSurrogate(number);
+        } else {
+            *next++ = number <= 0xFFFF ? QChar(static_cast<char16_t>(number)) : QChar(QChar::ReplacementCharacter);
+        }
     }
+    text.truncate(next - text.data());
     if (text.startsWith(QChar::ByteOrderMark))
         text.remove(0, 1);
     return text;
@@ -155,24 +156,8 @@ std::optional<QString> decodedFromOtherThanUtf8(const QByteArray &bytes)
     return decoder(bytes);
 }
 
-/// Looks at four characters at once. True for some that are no surrogates, too.
-bool mayHoldSurrogates(QStringView text)
-{
-    const char16_t *next = text.utf16();
-    const char16_t *const end = next + text.size();
-    std::uint64_t allBits = 0;
-    for (; end - next >= 4; next += 4) {
-        std::uint64_t characters = 0;
-        std::memcpy(&characters, next, sizeof characters);
-        allBits |= characters;
-    }
-    for (; next != end; ++next)
-        allBits |= *next;
-    return (allBits & 0x8000800080008000U) != 0;
-}
-
-/// \a text with a question mark in place of each surrogate that is none of a pair. QString::toUtf8() leaves it out in
-/// some versions.
+/// \a text with a question mark in place of each surrogate that is none of a pair. QString::toUtf8() writes one itself
+/// in some versions, and leaves the surrogate out in others.
 QString withLoneSurrogatesReplaced(const QString &text)
 {
     QString result = text;
@@ -188,7 +173,8 @@ QString withLoneSurrogatesReplaced(const QString &text)
 
 QByteArray toUtf8(const QString &text)
 {
-    if (mayHoldSurrogates(text) && !text.isValidUtf16())
+    const bool leavesSurrogatesOut = QStringView(u"\xD800").toUtf8() != "?";
+    if (leavesSurrogatesOut && !text.isValidUtf16())
         return withLoneSurrogatesReplaced(text).toUtf8();
     return text.toUtf8();
 }
