@@ -79,8 +79,35 @@ QByteArray comparable(QByteArrayView name)
     return result;
 }
 
-/// Versions of ICU read these characters of GB18030 as what they have been since its edition of 2022, or as characters
-/// for private use, which stood for them before. Here they are what they are now.
+// Versions of ICU differ in GB18030.
+
+/// How many bytes the character at the start of \a bytes takes; 1 if it is none.
+qsizetype sizeOfCharacterOfGb18030(QByteArrayView bytes)
+{
+    const auto isBetween = [bytes](qsizetype index, int first, int last) {
+        return index < bytes.size() && static_cast<unsigned char>(bytes[index]) >= first
+               && static_cast<unsigned char>(bytes[index]) <= last;
+    };
+    if (!isBetween(0, 0x81, 0xFE))
+        return 1;
+    if (isBetween(1, 0x40, 0x7E) || isBetween(1, 0x80, 0xFE))
+        return 2;
+    return isBetween(1, '0', '9') && isBetween(2, 0x81, 0xFE) && isBetween(3, '0', '9') ? 4 : 1;
+}
+
+/// A byte 0x80 that starts a character is none, or the sign for Euro in some versions. Here it is none, as 0xFF is
+/// none.
+QByteArray withoutEurosOfOneByte(QByteArray bytes)
+{
+    for (qsizetype i = 0; i < bytes.size(); i += sizeOfCharacterOfGb18030(QByteArrayView(bytes).sliced(i))) {
+        if (bytes.at(i) == '\x80')
+            bytes[i] = '\xFF';
+    }
+    return bytes;
+}
+
+/// These characters are read as what they have been since the edition of 2022, or as characters for private use, which
+/// stood for them before. Here they are what they are now.
 void replacePrivateCharactersOfGb18030(QString &text)
 {
     constexpr QStringView before = u"\uE5E5\uE78D\uE78E\uE78F\uE790\uE791\uE792\uE793\uE794\uE795\uE796"
@@ -112,8 +139,9 @@ std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
     QStringDecoder decoder(declared.toByteArray().constData());
     if (!decoder.isValid())
         return std::nullopt;
-    QString text = decoder(bytes);
-    if (comparable(decoder.name()) == "gb18030") // by whatever name
+    const bool isGb18030 = comparable(decoder.name()) == "gb18030"; // by whatever name
+    QString text = decoder(isGb18030 ? withoutEurosOfOneByte(bytes) : bytes);
+    if (isGb18030)
         replacePrivateCharactersOfGb18030(text);
     // Devices declare "utf-16" because their text was in memory that way, and then send UTF-8. A declaration that does
     // not survive its own encoding is wrong.
