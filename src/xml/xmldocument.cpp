@@ -5,7 +5,7 @@
 #include "references.h"
 #include "xmlnames.h"
 
-#include <new>
+#include <QtCore/QtGlobal>
 
 namespace vorn {
 namespace {
@@ -75,7 +75,7 @@ XmlDocument::XmlDocument(const QByteArray &bytes, const QString &root)
     const pugi::xml_parse_result parsed =
         m_tree.load_buffer(reply.utf8.constData(), size, options, pugi::encoding_utf8);
     if (parsed.status == pugi::status_out_of_memory) // else a fault would read as a reply without one
-        throw std::bad_alloc();
+        qBadAlloc();
     if (holdsBadReferences) {
         ReferenceResolver resolver;
         m_tree.traverse(resolver);
