@@ -292,7 +292,7 @@ void write(QString &output, const XmlResponseNode &node)
             continue;
         }
         for (const QChar character : content.nodeValue())
-            output += QStringLiteral("&#%1;").arg(character.unicode());
+            output += QStringLiteral("&#%1;").arg(static_cast<int>(character.unicode()));
     }
     output += QLatin1String("</") + name + QLatin1Char('>');
 }
