@@ -160,7 +160,7 @@ public:
 
         Iterator &operator++();
 
-        Iterator operator++(int)
+        Iterator operator++(int) // NOLINT(cert-dcl21-cpp): a const value could not be moved
         {
             const Iterator old = *this;
             ++*this;
