@@ -131,12 +131,14 @@ Kind ownListKind(const std::string &name, const std::string &operation, const st
             [](const QByteArray &reply) { return List(reply).size(); }};
 }
 
+constexpr Limits configurationLimits{0.103, 0.125};
+
 /// The lists of one type of configuration: all that a device has, and those that go together with a profile.
 template <typename List, typename CompatibleList>
 void addConfigurations(std::vector<Kind> &kinds, const std::string &type, const std::string &operation,
-                       const Values &values, const std::string &entry = "Configurations")
+                       const Values &values, const std::string &entry = "Configurations",
+                       Limits limits = configurationLimits)
 {
-    constexpr Limits limits{0.38, 0.43};
     const std::string suffix = type + "ConfigurationVector";
     kinds.push_back(listKind<List>("Onvif" + suffix, "Get" + operation, entry, limits, values));
     kinds.push_back(
@@ -151,13 +153,13 @@ std::vector<Kind> makeKinds()
     const QString getProfiles = QStringLiteral("GetProfiles");
     const ByHand faultByHand("Body/Fault", {"Code/Value", "Code/Subcode/Value", "Code/Subcode/Subcode/Value"});
     const Kind profiles =
-        listKind<OnvifProfileVector>("OnvifProfileVector", "GetProfiles", "Profiles", {0.42, 0.47}, profile);
+        listKind<OnvifProfileVector>("OnvifProfileVector", "GetProfiles", "Profiles", {0.098, 0.14}, profile);
 
     std::vector<Kind> kinds = {
-        {"OnvifFault of a good reply", getProfiles, {0.07, 0.08}, ByHand("Body", {"Fault/Code/Value"}), isGood},
+        {"OnvifFault of a good reply", getProfiles, {0.06, 0.06}, ByHand("Body", {"Fault/Code/Value"}), isGood},
         {"OnvifFault with three codes",
          QStringLiteral("NoProfile*"),
-         {0.15, 0.18},
+         {0.13, 0.13},
          faultByHand,
          [](const QByteArray &reply) -> qsizetype {
              const OnvifFault fault(reply, "GetProfiles", 0);
@@ -169,26 +171,26 @@ std::vector<Kind> makeKinds()
          ByHand("head", {"title"}),
          [](const QByteArray &reply) -> qsizetype { return OnvifFault(reply, "GetProfiles", 0).hasError() ? 1 : 0; }},
         recordKind<OnvifDeviceInformation>(
-            "OnvifDeviceInformation", "GetDeviceInformation", {0.09, 0.10},
+            "OnvifDeviceInformation", "GetDeviceInformation", {0.072, 0.11},
             ByHand(responsePath("GetDeviceInformation"),
                    {"Manufacturer", "Model", "FirmwareVersion", "SerialNumber", "HardwareId"}),
             [](const OnvifDeviceInformation &information) { return !information.manufacturer.isEmpty(); }),
         recordKind<OnvifNetworkGateway>(
-            "OnvifNetworkGateway", "GetNetworkDefaultGateway", {0.09, 0.10},
+            "OnvifNetworkGateway", "GetNetworkDefaultGateway", {0.072, 0.11},
             ByHand(responsePath("GetNetworkDefaultGateway") + "/NetworkGateway", {"IPv4Address", "IPv6Address"}),
             [](const OnvifNetworkGateway &gateway) { return !gateway.ipv4Address.isEmpty(); }),
         recordKind<OnvifCapabilities>(
-            "OnvifCapabilities", "GetCapabilities", {0.14, 0.15},
+            "OnvifCapabilities", "GetCapabilities", {0.13, 0.16},
             ByHand(responsePath("GetCapabilities") + "/Capabilities", capabilities),
             [](const OnvifCapabilities &all) { return all.hasDevice() || all.hasMedia() || all.hasEvents(); }),
-        recordKind<OnvifCamera>("OnvifCamera", "ProbeMatches", {0.25, 0.28},
+        recordKind<OnvifCamera>("OnvifCamera", "ProbeMatches", {0.18, 0.18},
                                 ByHand("Body/ProbeMatches/ProbeMatch", {"XAddrs", "Scopes"}),
                                 [](const OnvifCamera &camera) { return camera.isValid(); }),
-        listKind<OnvifRelayOutputVector>("OnvifRelayOutputVector", "GetRelayOutputs", "RelayOutputs", {0.15, 0.16},
+        listKind<OnvifRelayOutputVector>("OnvifRelayOutputVector", "GetRelayOutputs", "RelayOutputs", {0.08, 0.115},
                                          {"@token", "Properties/Mode", "Properties/DelayTime", "Properties/IdleState"}),
         listKind<OnvifNetworkInterfaceVector>("OnvifNetworkInterfaceVector", "GetNetworkInterfaces",
-                                              "NetworkInterfaces", {0.28, 0.31}, networkInterface),
-        ownListKind<OnvifScopeMap>("OnvifScopeMap", "GetScopes", "Scopes", {0.34, 0.37}, {"ScopeDef", "ScopeItem"}),
+                                              "NetworkInterfaces", {0.12, 0.14}, networkInterface),
+        ownListKind<OnvifScopeMap>("OnvifScopeMap", "GetScopes", "Scopes", {0.145, 0.19}, {"ScopeDef", "ScopeItem"}),
     };
     addConfigurations<OnvifVideoSourceConfigurationVector, OnvifCompatibleVideoSourceConfigurationVector>(
         kinds, "VideoSource", "VideoSourceConfigurations", videoSource);
@@ -203,12 +205,12 @@ std::vector<Kind> makeKinds()
     addConfigurations<OnvifAudioDecoderConfigurationVector, OnvifCompatibleAudioDecoderConfigurationVector>(
         kinds, "AudioDecoder", "AudioDecoderConfigurations", audioDecoder);
     addConfigurations<OnvifVideoAnalyticsConfigurationVector, OnvifCompatibleVideoAnalyticsConfigurationVector>(
-        kinds, "VideoAnalytics", "VideoAnalyticsConfigurations", videoAnalytics);
+        kinds, "VideoAnalytics", "VideoAnalyticsConfigurations", videoAnalytics, "Configurations", {0.07, 0.07});
     addConfigurations<OnvifPtzConfigurationVector, OnvifCompatiblePtzConfigurationVector>(
         kinds, "Ptz", "Configurations", ptz, "PTZConfiguration");
     kinds.push_back(ownListKind<OnvifCompatibleMetadataConfigurationVector>(
         "OnvifCompatibleMetadataConfigurationVector", "GetCompatibleMetadataConfigurations", "Configurations",
-        {0.38, 0.43}, metadata));
+        configurationLimits, metadata));
     kinds.push_back(profiles);
     for (const char *operation : {"GetProfile", "CreateProfile"}) {
         const QString root = QString::fromStdString("/Envelope/" + responsePath(operation));
@@ -222,10 +224,34 @@ std::vector<Kind> makeKinds()
     }
     kinds.push_back({"OnvifFault, then OnvifProfileVector",
                      getProfiles,
-                     {0.48, 0.54},
+                     {0.152, 0.195},
                      profiles.byHand,
                      [isGood, profiles](const QByteArray &reply) -> qsizetype {
                          return isGood(reply) == 1 ? profiles.read(reply) : 0;
+                     }});
+    // What a program asks for itself: nodes, and values by their paths.
+    kinds.push_back({"XmlResponse::getAll of profiles",
+                     getProfiles,
+                     {0.42, 0.47},
+                     profiles.byHand,
+                     [](const QByteArray &reply) -> qsizetype {
+                         XmlResponse response(reply, QStringLiteral("/Envelope/Body/GetProfilesResponse"));
+                         return response.getAll(QStringLiteral("/Profiles")).size();
+                     }});
+    QStringList paths;
+    for (const std::string &value : capabilities)
+        paths.append(QLatin1Char('/') + QString::fromStdString(value));
+    kinds.push_back({"XmlResponse::getText of capabilities",
+                     QStringLiteral("GetCapabilities"),
+                     {0.14, 0.24},
+                     ByHand(responsePath("GetCapabilities") + "/Capabilities", capabilities),
+                     [paths](const QByteArray &reply) -> qsizetype {
+                         const QString root = QStringLiteral("/Envelope/Body/GetCapabilitiesResponse/Capabilities");
+                         XmlResponse response(reply, root);
+                         qsizetype size = 0;
+                         for (const QString &path : paths)
+                             size += response.getText(path).size();
+                         return size > 0 ? 1 : 0;
                      }});
     return kinds;
 }

@@ -11,13 +11,18 @@
 
 namespace bench {
 
-/// What the library may cost, in instructions, as a multiple of `QDomDocument::setContent` on the same bytes. Devices
-/// send replies without white space between the elements, most captured ones are indented.
+/// What the library may cost, in instructions, as a multiple of `QDomDocument::setContent` on the same bytes. What a
+/// record costs whatever is in its reply weighs more in a small one.
 struct Limits
 {
-    double indented;
-    double compact;
+    double large; ///< of 2 KB and more
+    double small;
 };
+
+inline double limitFor(const Limits &limits, qsizetype size)
+{
+    return size >= 2048 ? limits.large : limits.small;
+}
 
 /// A kind of reply and the two ways to its values.
 struct Kind

@@ -60,8 +60,8 @@ std::vector<Reply> repliesTo(const QString &operation, const QString &folder)
         // What has hardly any white space between its elements is one of the compact ones as it stands.
         const bool isIndented = compact.size() < bytes.size() - bytes.size() / 20;
         if (isIndented)
-            replies.push_back({name, bytes, false});
-        replies.push_back({isIndented ? name + ", compact" : name, isIndented ? compact : bytes, true});
+            replies.push_back({name, bytes});
+        replies.push_back({isIndented ? name + ", compact" : name, isIndented ? compact : bytes});
     }
     return replies;
 }

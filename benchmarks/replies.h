@@ -12,7 +12,6 @@ struct Reply
 {
     std::string name; ///< the folder, and whether the white space between the elements was removed
     QByteArray bytes;
-    bool isCompact = false;
 };
 
 /// The replies below \a folder whose files are called \a operation, each as it stands and with the white space between

@@ -14,12 +14,6 @@
 namespace bench {
 namespace {
 
-void setContent(const QByteArray &reply)
-{
-    QDomDocument document;
-    benchmark::DoNotOptimize(document.setContent(reply));
-}
-
 qsizetype readByHand(const QByteArray &reply, const ByHand &byHand)
 {
     QDomDocument document;
@@ -44,6 +38,12 @@ void parse(const QByteArray &reply)
 }
 
 } // namespace
+
+void setContent(const QByteArray &reply)
+{
+    QDomDocument document;
+    benchmark::DoNotOptimize(document.setContent(reply));
+}
 
 RoadTasks roadTasks(const std::string &name)
 {
@@ -78,9 +78,7 @@ Roads::Roads(const QStringList &folders)
                 const RoadTasks names = roadTasks(name);
                 const std::vector<Task> tasks = tasksFor(names, kind, bytes);
                 m_tasks.insert(m_tasks.end(), tasks.begin(), tasks.end());
-                const Limits &limits = kind.limits;
-                m_rows.push_back(
-                    {kind.record, reply.name, bytes.size(), reply.isCompact ? limits.compact : limits.indented, names});
+                m_rows.push_back({kind.record, reply.name, bytes.size(), limitFor(kind.limits, bytes.size()), names});
             }
         }
     }

@@ -12,6 +12,9 @@
 
 namespace bench {
 
+/// The yardstick: makes a `QDomDocument` of \a reply, and destroys it.
+void setContent(const QByteArray &reply);
+
 /// The names of what is done with one reply.
 struct RoadTasks
 {

@@ -7,6 +7,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::checkFault(QByteArray(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size)));
+    const QByteArray reply(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    fuzz::checkFault(reply);
+    fuzz::checkLists(reply);
     return 0;
 }

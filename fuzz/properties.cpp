@@ -1,12 +1,14 @@
 #include "properties.h"
 
-#include "children.h"
 #include "inspect/outlines.h"
 #include "require.h"
+#include "sameview.h"
 
 #include <QtCore/QJsonArray>
 
+#include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <type_traits>
 #include <utility>
 
@@ -16,11 +18,19 @@ namespace {
 using vorn::XmlResponse;
 using vorn::XmlResponseNode;
 
-/// The elements that a list is read from: those of their parent's children that are called \a name.
-QList<XmlResponseNode> nodesAt(const QByteArray &reply, const QString &root, QStringView name)
+/// A reply and the nodes that a list is made of.
+struct ListSource
 {
-    return childrenNamed(XmlResponse(reply, root).get({}), name);
-}
+    ListSource(const QByteArray &reply, const QString &root, std::initializer_list<const char *> paths)
+        : response(reply, root)
+    {
+        for (const char *path : paths)
+            nodes += response.getAll(QLatin1String(path));
+    }
+
+    XmlResponse response; // for as long as the nodes are read
+    QList<XmlResponseNode> nodes;
+};
 
 template <typename Record, typename = void>
 constexpr bool isList = false;
@@ -93,72 +103,135 @@ void checkCopiesOfWhole(vorn::OnvifProfile profile, const vorn::OnvifAudioDecode
     checkCopies(profile, constructed, assigned);
 }
 
-/// \a list has one entry for each of \a nodes; its tokens are theirs.
-template <typename List>
-void checkList(const List &list, const QList<XmlResponseNode> &nodes)
+/// What the constructor makes of each of \a nodes, as it stands in a list.
+template <typename Record>
+QList<Record> recordsOf(const QList<XmlResponseNode> &nodes)
 {
-    require(list.size() == nodes.size());
+    QList<Record> records;
+    for (const XmlResponseNode &node : nodes) {
+        const Record record(node);
+        records.append(record);
+    }
+    return records;
+}
+
+/// Each entry of \a list holds what the one of \a records in its place does.
+template <typename List, typename Record>
+void checkEntries(const List &list, const QList<Record> &records)
+{
+    require(std::equal(
+        list.begin(), list.end(), records.begin(), records.end(), [](const Record &entry, const Record &record) {
+            return contentsOf(entry) == contentsOf(record) && entry.token.isNull() == record.token.isNull();
+        }));
+    checkCopies(list);
+}
+
+/// The same, and each entry has the token of its node.
+template <typename List, typename Record>
+void checkList(const List &list, const QList<Record> &records, const QList<XmlResponseNode> &nodes)
+{
+    checkEntries(list, records);
     for (qsizetype i = 0; i < list.size(); ++i) {
         require(!list[i].isNull());
         require(list[i].token == nodes[i].element.attribute(QStringLiteral("token")));
         checkCopies(list[i]);
     }
-    checkCopies(list);
 }
 
 template <typename List>
-void checkListBelow(const QByteArray &reply, const QString &root, QStringView name)
+void checkListOf(const List &list, const ListSource &source)
 {
-    checkList(List(reply, root), nodesAt(reply, root, name));
+    checkList(list, recordsOf<typename List::value_type>(source.nodes), source.nodes);
+}
+
+template <typename List>
+void checkListAt(const QByteArray &reply, const QString &root, std::initializer_list<const char *> paths)
+{
+    checkListOf(List(reply, root), ListSource(reply, root, paths));
+}
+
+/// The list of configurations that can be added to a profile, from the reply \a name.
+template <typename List>
+void checkCompatible(const QByteArray &reply, const char *name, std::initializer_list<const char *> paths)
+{
+    const ListSource source(reply, QLatin1String("/Envelope/Body/") + QLatin1String(name), paths);
+    if constexpr (std::is_same_v<typename List::value_type, vorn::OnvifAudioDecoderConfiguration>)
+        checkEntries(List(reply), recordsOf<vorn::OnvifAudioDecoderConfiguration>(source.nodes));
+    else
+        checkListOf(List(reply), source);
 }
 
 void checkDecoders(const QByteArray &reply, const QString &root)
 {
     const vorn::OnvifAudioDecoderConfigurationVector list(reply, root);
-    const QList<XmlResponseNode> nodes = nodesAt(reply, root, u"Configurations");
-    require(list.size() == nodes.size());
+    const ListSource source(reply, root, {"/Configurations"});
+    checkEntries(list, recordsOf<vorn::OnvifAudioDecoderConfiguration>(source.nodes));
     for (const vorn::OnvifAudioDecoderConfiguration &configuration : list)
         require(configuration.isNull() && configuration.token.isEmpty());
-    for (const XmlResponseNode &node : nodes)
+    for (const XmlResponseNode &node : source.nodes)
         checkCopies(vorn::OnvifAudioDecoderConfiguration(node));
-    checkCopies(list);
+}
+
+/// The profile that \a node holds, put together from what the constructors make of the nodes below.
+vorn::OnvifProfile profileOf(XmlResponse &response, const XmlResponseNode &node)
+{
+    const auto below = [&](const char *path) {
+        return response.get(node, QLatin1String("/Profiles/") + QLatin1String(path));
+    };
+    vorn::OnvifProfile profile(below("Name").element.text(), node.element.attribute(QStringLiteral("token")),
+                               node.element.attribute(QStringLiteral("fixed")) == QLatin1String("true"));
+    profile.videoSource = vorn::OnvifVideoSourceConfiguration(below("VideoSourceConfiguration"));
+    profile.audioSource = vorn::OnvifAudioSourceConfiguration(below("AudioSourceConfiguration"));
+    profile.videoEncoder = vorn::OnvifVideoEncoderConfiguration(below("VideoEncoderConfiguration"));
+    profile.audioEncoder = vorn::OnvifAudioEncoderConfiguration(below("AudioEncoderConfiguration"));
+    profile.videoAnalytics = vorn::OnvifVideoAnalyticsConfiguration(below("VideoAnalyticsConfiguration"));
+    profile.ptz = vorn::OnvifPtzConfiguration(below("PTZConfiguration"));
+    profile.metadata = vorn::OnvifMetadataConfiguration(below("MetadataConfiguration"));
+    profile.audioOutput = vorn::OnvifAudioOutputConfiguration(below("Extension/AudioOutputConfiguration"));
+    profile.audioDecoder = vorn::OnvifAudioDecoderConfiguration(below("Extension/AudioDecoderConfiguration"));
+    return profile;
 }
 
 void checkProfiles(const QByteArray &reply, const QString &root)
 {
     const vorn::OnvifProfileVector profiles(reply, root);
-    const QList<XmlResponseNode> nodes = nodesAt(reply, root, u"Profiles");
-    checkList(profiles, nodes);
+    ListSource source(reply, root, {"/Profiles"});
+    QList<vorn::OnvifProfile> expected;
+    for (const XmlResponseNode &node : source.nodes) {
+        const vorn::OnvifProfile profile = profileOf(source.response, node);
+        expected.append(profile);
+        require(profile.name.isNull() == source.response.getText(node, QStringLiteral("/Profiles/Name")).isNull());
+    }
+    checkList(profiles, expected, source.nodes);
     for (qsizetype i = 0; i < profiles.size(); ++i) {
+        require(profiles[i].name.isNull() == expected[i].name.isNull());
         require(profiles[i].isSaved() && profiles[i].audioDecoder.isNull());
         require(profiles[i].metadata.analyticsEngineConfiguration.isEmpty());
-        checkCopiesOfWhole(profiles[i], vorn::OnvifAudioDecoderConfiguration(nodes[i]));
+        checkCopiesOfWhole(profiles[i], vorn::OnvifAudioDecoderConfiguration(source.nodes[i]));
     }
-    const vorn::OnvifProfile profile(reply, root);
-    require(!profile.isNull());
-    checkCopies(profile);
 }
 
 /// Of the scopes with one key, the last in the reply comes first.
 void checkScopes(const QByteArray &reply)
 {
     const vorn::OnvifScopeMap scopes(reply);
-    QStringList uris;
-    for (const XmlResponseNode &node : nodesAt(reply, QStringLiteral("/Envelope/Body/GetScopesResponse"), u"Scopes")) {
-        const QList<XmlResponseNode> items = childrenNamed(node, u"ScopeItem");
-        uris.prepend(items.isEmpty() ? QString() : items.constFirst().element.text());
+    ListSource source(reply, QStringLiteral("/Envelope/Body/GetScopesResponse"), {"/Scopes"});
+    QMultiMap<QString, vorn::OnvifScope> expected;
+    for (const XmlResponseNode &node : source.nodes) {
+        const QString definition = source.response.getText(node, QStringLiteral("/Scopes/ScopeDef"));
+        const auto type = definition == QLatin1String("Fixed")          ? vorn::OnvifScope::Fixed
+                          : definition == QLatin1String("Configurable") ? vorn::OnvifScope::Configurable
+                                                                        : vorn::OnvifScope::Unknown;
+        const QString uri = source.response.getText(node, QStringLiteral("/Scopes/ScopeItem"));
+        expected.insert(uri.section(u'/', 3, 3), vorn::OnvifScope(type, uri));
     }
-    require(scopes.size() == uris.size());
-    const QStringList keys = scopes.uniqueKeys();
-    for (const QString &key : keys) {
-        qsizetype next = 0;
-        const QList<vorn::OnvifScope> values = scopes.values(key);
-        for (const vorn::OnvifScope &scope : values) {
-            next = uris.indexOf(scope.uri, next) + 1;
-            require(next > 0);
-            checkCopies(scope);
-        }
-    }
+    require(scopes.keys() == expected.keys());
+    require(std::equal(scopes.begin(), scopes.end(), expected.begin(), expected.end(),
+                       [](const vorn::OnvifScope &scope, const vorn::OnvifScope &other) {
+                           return contentsOf(scope) == contentsOf(other) && scope.uri.isNull() == other.uri.isNull();
+                       }));
+    for (const vorn::OnvifScope &scope : scopes)
+        checkCopies(scope);
     checkCopies(scopes);
 }
 
@@ -187,8 +260,8 @@ QString requestOf(const vorn::OnvifNetworkInterface &networkInterface)
 
 void checkInterfaces(const QByteArray &reply, const QString &root)
 {
+    checkListAt<vorn::OnvifNetworkInterfaceVector>(reply, root, {"/NetworkInterfaces"});
     const vorn::OnvifNetworkInterfaceVector interfaces(reply, root);
-    checkList(interfaces, nodesAt(reply, root, u"NetworkInterfaces"));
     for (const vorn::OnvifNetworkInterface &networkInterface : interfaces) {
         require(qHash(networkInterface) == qHash(vorn::OnvifNetworkInterface(networkInterface)));
         require(networkInterface.toString() == requestOf(networkInterface));
@@ -219,7 +292,7 @@ void write(QString &output, const XmlResponseNode &node)
             continue;
         }
         for (const QChar character : content.nodeValue())
-            output += QStringLiteral("&#%1;").arg(character.unicode());
+            output += QStringLiteral("&#%1;").arg(static_cast<int>(character.unicode()));
     }
     output += QLatin1String("</") + name + QLatin1Char('>');
 }
@@ -239,15 +312,20 @@ std::array<int, 3> codesOf(const vorn::OnvifFault &fault)
     return {fault.faultType, fault.subcodeType, fault.specificType};
 }
 
+/// A root path that leads to something, whatever the reply is.
+QString rootOf(XmlResponse &response)
+{
+    const XmlResponseNode body = response.get(QStringLiteral("/Envelope/Body"));
+    const QString element = body.children.isEmpty() ? QStringLiteral("None") : body.children.constFirst().name;
+    return QLatin1String("/Envelope/Body/") + element;
+}
+
 } // namespace
 
 void checkRecords(const QByteArray &reply)
 {
     XmlResponse response(reply, QString());
-    const XmlResponseNode body = response.get(QStringLiteral("/Envelope/Body"));
-    // A root path that leads to something, whatever the reply is.
-    const QString element = body.children.isEmpty() ? QStringLiteral("None") : body.children.constFirst().name;
-    const QString root = QLatin1String("/Envelope/Body/") + element;
+    const QString root = rootOf(response);
 
     const vorn::OnvifDeviceInformation information(reply);
     require(information.xml == response.xml());
@@ -258,24 +336,52 @@ void checkRecords(const QByteArray &reply)
     const vorn::OnvifCamera camera(reply);
     require(camera.isValid() || camera.addresses.isEmpty());
     checkCopies(camera);
+    const vorn::OnvifProfile profile(reply, root);
+    require(!profile.isNull());
+    checkCopies(profile);
+    checkGateway(reply);
+    checkLists(reply);
+}
 
-    checkListBelow<vorn::OnvifVideoSourceConfigurationVector>(reply, root, u"Configurations");
-    checkListBelow<vorn::OnvifVideoEncoderConfigurationVector>(reply, root, u"Configurations");
-    checkListBelow<vorn::OnvifAudioSourceConfigurationVector>(reply, root, u"Configurations");
-    checkListBelow<vorn::OnvifAudioEncoderConfigurationVector>(reply, root, u"Configurations");
-    checkListBelow<vorn::OnvifVideoAnalyticsConfigurationVector>(reply, root, u"Configurations");
-    checkListBelow<vorn::OnvifPtzConfigurationVector>(reply, root, u"PTZConfiguration");
-    checkListBelow<vorn::OnvifRelayOutputVector>(reply, root, u"RelayOutputs");
-    checkList(vorn::OnvifAudioOutputConfigurationVector(reply, root),
-              nodesAt(reply, root, u"Configurations") + nodesAt(reply, root, u"Options"));
-    checkList(vorn::OnvifCompatibleMetadataConfigurationVector(reply),
-              nodesAt(reply, QStringLiteral("/Envelope/Body/GetCompatibleMetadataConfigurationsResponse"),
-                      u"Configurations"));
-    checkScopes(reply);
+void checkLists(const QByteArray &reply)
+{
+    XmlResponse response(reply, QString());
+    const QString root = rootOf(response);
+    require(isSame(response.view(u"/Envelope"), response.get(QStringLiteral("/Envelope"))));
+
+    checkListAt<vorn::OnvifVideoSourceConfigurationVector>(reply, root, {"/Configurations"});
+    checkListAt<vorn::OnvifVideoEncoderConfigurationVector>(reply, root, {"/Configurations"});
+    checkListAt<vorn::OnvifAudioSourceConfigurationVector>(reply, root, {"/Configurations"});
+    checkListAt<vorn::OnvifAudioEncoderConfigurationVector>(reply, root, {"/Configurations"});
+    checkListAt<vorn::OnvifAudioOutputConfigurationVector>(reply, root, {"/Configurations", "/Options"});
+    checkListAt<vorn::OnvifVideoAnalyticsConfigurationVector>(reply, root, {"/Configurations"});
+    checkListAt<vorn::OnvifPtzConfigurationVector>(reply, root, {"/PTZConfiguration"});
+    checkListAt<vorn::OnvifRelayOutputVector>(reply, root, {"/RelayOutputs"});
     checkDecoders(reply, root);
     checkProfiles(reply, root);
     checkInterfaces(reply, root);
-    checkGateway(reply);
+    checkScopes(reply);
+
+    if (!root.contains(QLatin1String("GetCompatible"))) // not worth the time
+        return;
+    checkCompatible<vorn::OnvifCompatibleVideoSourceConfigurationVector>(
+        reply, "GetCompatibleVideoSourceConfigurationsResponse", {"/Configurations"});
+    checkCompatible<vorn::OnvifCompatibleVideoEncoderConfigurationVector>(
+        reply, "GetCompatibleVideoEncoderConfigurationsResponse", {"/Configurations"});
+    checkCompatible<vorn::OnvifCompatibleAudioSourceConfigurationVector>(
+        reply, "GetCompatibleAudioSourceConfigurationsResponse", {"/Configurations"});
+    checkCompatible<vorn::OnvifCompatibleAudioEncoderConfigurationVector>(
+        reply, "GetCompatibleAudioEncoderConfigurationsResponse", {"/Configurations"});
+    checkCompatible<vorn::OnvifCompatibleAudioOutputConfigurationVector>(
+        reply, "GetCompatibleAudioOutputConfigurationsResponse", {"/Configurations", "/Options"});
+    checkCompatible<vorn::OnvifCompatibleAudioDecoderConfigurationVector>(
+        reply, "GetCompatibleAudioDecoderConfigurationsResponse", {"/Configurations"});
+    checkCompatible<vorn::OnvifCompatibleMetadataConfigurationVector>(
+        reply, "GetCompatibleMetadataConfigurationsResponse", {"/Configurations"});
+    checkCompatible<vorn::OnvifCompatiblePtzConfigurationVector>(reply, "GetCompatibleConfigurationsResponse",
+                                                                 {"/PTZConfiguration"});
+    checkCompatible<vorn::OnvifCompatibleVideoAnalyticsConfigurationVector>(
+        reply, "GetCompatibleVideoAnalyticsConfigurationsResponse", {"/Configurations"});
 }
 
 void checkFault(const QByteArray &reply)
@@ -288,6 +394,7 @@ void checkFault(const QByteArray &reply)
 
     for (const char *documentElement : {"/Envelope", "/html", "/Fault"}) {
         const XmlResponseNode node = fault.response.get(QLatin1String(documentElement));
+        require(isSame(fault.response.view(documentElement), node));
         if (!node.valid || !isSpeakable(node))
             continue;
         QString rewritten;

@@ -1,8 +1,10 @@
 // The access by path: no reply may crash it, and all roads to a value have to agree.
 
 #include "children.h"
+#include "properties.h"
 #include "question.h"
 #include "require.h"
+#include "sameview.h"
 
 #include <vorn/util/xmlresponse.h>
 
@@ -13,6 +15,7 @@
 #include <cstdint>
 
 using fuzz::require;
+using vorn::XmlElementViews;
 using vorn::XmlResponse;
 using vorn::XmlResponseNode;
 
@@ -30,7 +33,7 @@ QString written(const XmlResponseNode &node)
     return text;
 }
 
-bool isSame(const XmlResponseNode &node, const XmlResponseNode &other)
+bool isSameNode(const XmlResponseNode &node, const XmlResponseNode &other)
 {
     return node.valid == other.valid && node.name == other.name && node.children.size() == other.children.size()
            && written(node) == written(other);
@@ -45,15 +48,26 @@ QString answers(XmlResponse &response, const QString &path)
     const QList<XmlResponseNode> nodes = response.getAll(path);
     for (const XmlResponseNode &node : nodes)
         all += written(node);
-    return all;
+    for (const vorn::XmlElementView view : response.viewAll(path))
+        all += view.text();
+    return all + response.view(path).attribute("token");
 }
 
 /// What is asked below \a start for \a path is what \a node says.
 void checkBelow(XmlResponse &response, const XmlResponseNode &start, const QString &path, const XmlResponseNode &node)
 {
-    require(isSame(response.get(start, path), node));
+    require(isSameNode(response.get(start, path), node));
     require(response.getText(start, path) == node.element.text());
     require(response.getUInt(start, path) == node.element.text().toUInt());
+}
+
+/// The views at \a path show what \a node and the other nodes at the path hold.
+void checkViews(XmlResponse &response, const QString &path, const XmlResponseNode &node)
+{
+    require(fuzz::isSame(response.view(path), node));
+    const XmlElementViews views = response.viewAll(path);
+    const QList<XmlResponseNode> nodes = response.getAll(path);
+    require(std::equal(views.begin(), views.end(), nodes.begin(), nodes.end(), fuzz::isSame));
 }
 
 /// By way of the element above that at \a path, unless there is none.
@@ -66,7 +80,13 @@ void checkByParent(XmlResponse &response, const QString &path, const XmlResponse
     checkBelow(response, parent, '/' + parent.name + path.mid(slash), node);
     const QList<XmlResponseNode> all = response.getAll(path);
     const QList<XmlResponseNode> children = fuzz::childrenNamed(parent, path.mid(slash + 1));
-    require(std::equal(all.begin(), all.end(), children.begin(), children.end(), isSame));
+    require(std::equal(all.begin(), all.end(), children.begin(), children.end(), isSameNode));
+
+    const vorn::XmlElementView parentView = response.view(path.left(slash));
+    require(parentView.at(path.mid(slash)) == response.view(path));
+    const XmlElementViews views = response.viewAll(path);
+    const XmlElementViews childViews = parentView.children(path.mid(slash + 1));
+    require(std::equal(views.begin(), views.end(), childViews.begin(), childViews.end()));
 }
 
 void checkElement(XmlResponse &response, const QString &path)
@@ -81,6 +101,7 @@ void checkElement(XmlResponse &response, const QString &path)
     require(response.getAll(path).isEmpty() != node.valid);
     if (!node.name.isEmpty())
         checkBelow(response, node, '/' + node.name, node);
+    checkViews(response, path, node);
     checkByParent(response, path, node);
     const QDomNamedNodeMap attributes = node.element.attributes();
     for (int i = 0; i < attributes.count(); ++i) {
@@ -128,5 +149,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     checkRoots(response, question);
     for (const char *start : {"/Envelope", "/html", "/Fault", "/a"})
         checkFrom(response, QLatin1String(start));
+    fuzz::checkLists(question.reply);
     return 0;
 }

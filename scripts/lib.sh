@@ -15,3 +15,13 @@ build() {
     fi
     rm -f "$log"
 }
+
+# run_tests PRESET [CTEST-OPTION...]: runs the tests that are built, and says what came of them.
+run_tests() {
+    local failed=0 folder=build/$1/Testing
+    rm -rf "$folder/cases" "$folder/tests.xml" # a program that crashes leaves nothing new
+    # Some tests wait for each other more than they work, so there are more at a time than processors.
+    ctest --preset "$1" --parallel "$((2 * $(nproc)))" --output-junit "$PWD/$folder/tests.xml" "${@:2}" || failed=1
+    [ ! -e "$folder/tests.xml" ] || awk -f tests/summary.awk -v cases="$folder/cases" "$folder/tests.xml"
+    return $failed
+}

@@ -1,124 +1,119 @@
 #include "camerawalk.h"
 
-#include <iterator>
-
 namespace client {
-namespace {
 
-/// A request, and where its answer goes.
-struct Step
-{
-    Request request;
-    void (*store)(Report &report, const QByteArray &bytes);
-};
-
-const Step steps[] = {
-    {{Service::Device, "GetDeviceInformation"},
-     [](Report &report, const QByteArray &bytes) { report.information = vorn::OnvifDeviceInformation(bytes); }},
-    {{Service::Device, "GetCapabilities", "<tds:Category>All</tds:Category>"},
-     [](Report &report, const QByteArray &bytes) { report.capabilities = vorn::OnvifCapabilities(bytes); }},
-    {{Service::Device, "GetScopes"},
-     [](Report &report, const QByteArray &bytes) { report.scopes = vorn::OnvifScopeMap(bytes); }},
-    {{Service::Media, "GetProfiles"},
-     [](Report &report, const QByteArray &bytes) {
-         report.profiles = vorn::OnvifProfileVector(bytes, "/Envelope/Body/GetProfilesResponse");
-     }},
-    {{Service::Device, "GetNetworkInterfaces"},
-     [](Report &report, const QByteArray &bytes) {
-         report.interfaces = vorn::OnvifNetworkInterfaceVector(bytes, "/Envelope/Body/GetNetworkInterfacesResponse");
-     }},
-    {{Service::Device, "GetNetworkDefaultGateway"},
-     [](Report &report, const QByteArray &bytes) { report.gateway = vorn::OnvifNetworkGateway(bytes); }},
-    {{Service::Device, "GetRelayOutputs"},
-     [](Report &report, const QByteArray &bytes) {
-         report.relays = vorn::OnvifRelayOutputVector(bytes, "/Envelope/Body/GetRelayOutputsResponse");
-     }},
-};
-
-/// Whether \a fault is one that an ONVIF device answers with.
-bool isSoapFault(const vorn::OnvifFault &fault)
-{
-    switch (fault.faultType) {
-    case vorn::OnvifFault::VersionMismatch:
-    case vorn::OnvifFault::MustUnderstand:
-    case vorn::OnvifFault::DataEncodingUnknown:
-    case vorn::OnvifFault::Sender:
-    case vorn::OnvifFault::Receiver:
-    case vorn::OnvifFault::UnknownSoapCode:
-        return true;
-    default:
-        return false;
-    }
-}
-
-} // namespace
-
-CameraWalk::CameraWalk(const QString &address, const Credentials &credentials, std::chrono::milliseconds timeout,
+CameraWalk::CameraWalk(const QString &address, const Access &access, const std::optional<SavedReplies> &saved,
                        Progress progress, Done done)
     : m_entry(deviceServiceUrl(address))
-    , m_withCredentials(!credentials.isEmpty())
-    , m_client(credentials, timeout)
+    , m_withCredentials(!access.credentials.isEmpty())
+    , m_client(access)
+    , m_saved(saved)
     , m_progress(std::move(progress))
     , m_done(std::move(done))
+    , m_questions(questionsFor(m_report))
 {
     m_report.address = address;
 }
 
 void CameraWalk::start()
 {
-    next();
+    m_progress(QString("asking %1 for GetSystemDateAndTime").arg(m_entry.toString()));
+    m_client.askClock(m_entry,
+                      [this](const Answer &answer, const ClockReading &reading) { takeClock(answer, reading); });
+}
+
+void CameraWalk::takeClock(const Answer &answer, const ClockReading &reading)
+{
+    m_report.tls = answer.http.tls;
+    m_report.clock.notAnswered = complaintAbout(answer);
+    if (answer.isReply)
+        m_report.clock.record = reading;
+    else
+        m_report.failures.append({answer.request.action, m_report.clock.notAnswered});
+    keep(answer);
+    if (goesOnAfter(answer, false))
+        next();
 }
 
 void CameraWalk::next()
 {
-    if (m_step < std::size(steps) && isUnavailable(steps[m_step].request.service)) {
-        m_progress(QString("%1 names no media service").arg(m_report.address));
-        ++m_step;
-    }
-    if (m_step == std::size(steps))
-        return m_done(m_report);
-    const Request &request = steps[m_step].request;
-    const QString xAddr = xAddrOf(request.service);
+    if (m_questions.empty())
+        return end({});
+    const Question question = m_questions.front();
+    m_questions.pop_front();
+    const QUrl url = urlOf(question.request.service);
+    m_progress(QString("asking %1 for %2").arg(url.toString(), question.request.action));
+    m_client.ask(url, question.request, [this, question](const Answer &answer) { take(question, answer); });
+}
+
+void CameraWalk::take(const Question &question, const Answer &answer)
+{
+    const Questions more = question.take(answer, complaintAbout(answer));
+    m_questions.insert(m_questions.begin(), more.begin(), more.end());
+    keep(answer);
+    if (goesOnAfter(answer, m_withCredentials))
+        next();
+}
+
+bool CameraWalk::goesOnAfter(const Answer &answer, bool hadProof)
+{
+    const TransportFailure failure = answer.http.failure;
+    const bool isEntry =
+        answer.http.url.authority() == m_entry.authority() && answer.http.url.scheme() == m_entry.scheme();
+    const bool wasReached = m_isReached;
+    m_isReached = m_isReached || answer.http.status != 0;
+    m_silences = answer.http.isSilence ? m_silences + 1 : 0;
+    m_failures = answer.http.status != 0 ? 0 : m_failures + 1;
+    if (hadProof && answer.isRefusal())
+        end("It was not asked, as the device has refused the user or the password.");
+    else if (isFinal(failure) && isEntry)
+        end("It was not asked, as there is no connection to the device.");
+    else if (answer.http.isSilence && (!wasReached || m_silences > 1))
+        end("It was not asked, as the device has fallen silent.");
+    else if (!m_isReached && m_failures > 1)
+        end("It was not asked, as the device answers nothing over HTTP.");
+    else
+        return true;
+    return false;
+}
+
+void CameraWalk::end(const QString &why)
+{
+    leaveOpen(m_report, why);
+    m_done(m_report);
+}
+
+QString CameraWalk::complaintAbout(const Answer &answer) const
+{
+    const QString complaint = answer.complaint();
+    return answer.isRefusal() && !m_withCredentials ? complaint + " Give --user." : complaint;
+}
+
+void CameraWalk::keep(const Answer &answer)
+{
+    if (!m_saved || !answer.isReceived())
+        return;
+    const QString complaint = m_saved->keep(answer.request, answer.http.body, m_client.secretsSent());
+    if (!complaint.isEmpty())
+        m_report.failures.append({"--save", complaint});
+}
+
+QUrl CameraWalk::urlOf(Service service)
+{
+    const auto &capabilities = m_report.capabilities.record;
+    QString xAddr;
+    if (capabilities && service == Service::Media)
+        xAddr = capabilities->media.xAddr;
+    if (capabilities && service == Service::DeviceIO)
+        xAddr = capabilities->device.io.xAddr;
+    if (xAddr.isEmpty())
+        return m_entry; // which has answered
     const QUrl url = urlOnSameHost(m_entry, xAddr);
-    if (!xAddr.isEmpty() && url != QUrl(xAddr) && !m_notAsked.contains(xAddr)) {
+    if (url.host() != QUrl(xAddr.trimmed()).host() && !m_notAsked.contains(xAddr)) {
         m_notAsked.append(xAddr);
         m_progress(QString("%1 is no address of the host that was asked, which is asked instead").arg(xAddr));
     }
-    m_progress(QString("asking %1 for %2").arg(url.toString(), request.action));
-    m_client.ask(url, request, [this](const Answer &answer) { take(answer); });
-}
-
-void CameraWalk::take(const Answer &answer)
-{
-    const QString complaint = answer.complaint();
-    if (complaint.isEmpty())
-        steps[m_step].store(m_report, answer.bytes);
-    else
-        m_report.failures.append({answer.action, complaint});
-    m_report.refused = m_report.refused || answer.isRefusal();
-    if (!complaint.isEmpty() && !isWorthGoingOn(answer))
-        return m_done(m_report);
-    ++m_step;
-    next();
-}
-
-bool CameraWalk::isWorthGoingOn(const Answer &answer) const
-{
-    if (!answer.received)
-        return false;
-    return m_step > 0 || (isSoapFault(answer.fault) && !(m_withCredentials && answer.isRefusal()));
-}
-
-bool CameraWalk::isUnavailable(Service service) const
-{
-    return service == Service::Media && m_report.capabilities && !m_report.capabilities->hasMedia();
-}
-
-QString CameraWalk::xAddrOf(Service service) const
-{
-    if (!m_report.capabilities)
-        return {};
-    return service == Service::Media ? m_report.capabilities->media.xAddr : m_report.capabilities->device.xAddr;
+    return url;
 }
 
 } // namespace client

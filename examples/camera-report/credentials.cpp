@@ -35,15 +35,22 @@ QByteArray tokenDigest(const QByteArray &nonce, const QByteArray &created, const
     return QCryptographicHash::hash(nonce + created + password.toUtf8(), QCryptographicHash::Sha1).toBase64();
 }
 
-QString securityHeader(const Credentials &credentials, const QDateTime &deviceTime)
+Token freshToken(const Credentials &credentials, const QDateTime &deviceTime)
 {
-    const QByteArray nonce = freshNonce();
-    const QByteArray created = deviceTime.toUTC().toString(Qt::ISODateWithMs).toLatin1();
+    Token token;
+    token.nonce = freshNonce();
+    token.created = deviceTime.toUTC().toString(Qt::ISODateWithMs).toLatin1();
+    token.digest = tokenDigest(token.nonce, token.created, credentials.password);
+    return token;
+}
+
+QString securityHeader(const Credentials &credentials, const Token &token)
+{
     return vorn::PlaceHolderString(securityTemplate, "$@")
         .arg(credentials.user.toHtmlEscaped())
-        .arg(tokenDigest(nonce, created, credentials.password).constData())
-        .arg(nonce.toBase64().constData())
-        .arg(created.constData())
+        .arg(token.digest.constData())
+        .arg(token.nonce.toBase64().constData())
+        .arg(token.created.constData())
         .qStr();
 }
 

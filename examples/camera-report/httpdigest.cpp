@@ -1,5 +1,7 @@
 #include "httpdigest.h"
 
+#include "support/httpparameters.h"
+
 #include <QtCore/QHash>
 #include <QtCore/QRegularExpression>
 
@@ -7,17 +9,6 @@ namespace client {
 namespace {
 
 using Parameters = QHash<QString, QByteArray>;
-
-const char *const parameterPattern = R"re([\s,]*([\w-]+)\s*=\s*(?:"((?:[^"\\]|\\.)*+)"|([^\s,"]++)))re";
-
-Parameters parametersOf(const QString &text)
-{
-    static const QRegularExpression pattern(parameterPattern);
-    Parameters parameters;
-    for (const QRegularExpressionMatch &match : pattern.globalMatch(text))
-        parameters.insert(match.captured(1).toLower(), (match.captured(2) + match.captured(3)).toLatin1());
-    return parameters;
-}
 
 std::optional<DigestChallenge> challengeOf(const Parameters &parameters)
 {
@@ -27,6 +18,7 @@ std::optional<DigestChallenge> challengeOf(const Parameters &parameters)
         challenge.hash = QCryptographicHash::Sha256;
     else if (!algorithm.isEmpty() && algorithm != "MD5")
         return std::nullopt;
+    challenge.stale = parameters["stale"].toLower() == "true";
     challenge.qop = parameters.contains("qop");
     for (const QByteArray &quality : parameters["qop"].split(',')) {
         if (!challenge.qop || quality.trimmed().toLower() == "auth")
@@ -44,10 +36,10 @@ QByteArray quoted(const QByteArray &value)
 
 std::optional<DigestChallenge> digestChallenge(const QByteArray &header)
 {
-    static const QRegularExpression pattern("\\bDigest\\s((?:" + QString(parameterPattern) + ")+)",
+    static const QRegularExpression pattern("\\bDigest\\s((?:" + QString(example::httpParameterPattern) + ")+)",
                                             QRegularExpression::CaseInsensitiveOption);
     for (const QRegularExpressionMatch &match : pattern.globalMatch(QString::fromLatin1(header))) {
-        if (auto challenge = challengeOf(parametersOf(match.captured(1))))
+        if (auto challenge = challengeOf(example::httpParameters(match.captured(1))))
             return challenge;
     }
     return std::nullopt;
@@ -62,9 +54,8 @@ QByteArray digestAuthorization(const DigestChallenge &challenge, const Credentia
     const QByteArray request = hash(use.method + ':' + use.uri);
     const QByteArray freshness = challenge.qop ? ':' + count + ':' + use.clientNonce + ":auth:" : QByteArray(":");
 
-    QByteArray value = "Digest username=" + quoted(QByteArray(user).replace('\\', "\\\\").replace('"', "\\\""))
-                       + ", realm=" + quoted(challenge.realm) + ", nonce=" + quoted(challenge.nonce)
-                       + ", uri=" + quoted(use.uri)
+    QByteArray value = "Digest username=" + example::httpQuoted(user) + ", realm=" + quoted(challenge.realm)
+                       + ", nonce=" + quoted(challenge.nonce) + ", uri=" + quoted(use.uri)
                        + ", response=" + quoted(hash(secret + ':' + challenge.nonce + freshness + request));
     if (!challenge.algorithm.isEmpty())
         value += ", algorithm=" + challenge.algorithm;

@@ -17,7 +17,8 @@ struct DigestChallenge
     QByteArray opaque;
     QByteArray algorithm; ///< as it was named; empty if it was not
     QCryptographicHash::Algorithm hash = QCryptographicHash::Md5;
-    bool qop = false; ///< whether "auth" is wanted; else the older form without a nonce of the client
+    bool qop = false;   ///< whether "auth" is wanted; else the older form without a nonce of the client
+    bool stale = false; ///< whether the proof before was right but for its nonce
 };
 
 /// The first challenge in the value \a header of WWW-Authenticate that can be answered: Digest with MD5 or SHA-256.

@@ -21,7 +21,7 @@ QString namesOf(const vorn::OnvifNetworkInterfaceVector &interfaces)
 QString complaintAbout(const Answer &answer)
 {
     const QString complaint = answer.complaint();
-    return complaint.isEmpty() ? complaint : QString("%1: %2").arg(answer.action, complaint);
+    return complaint.isEmpty() ? complaint : QString("%1: %2").arg(answer.request.action, complaint);
 }
 
 } // namespace
@@ -58,11 +58,10 @@ Request requestFor(const InterfaceChange &change, const Interface &current)
     return {Service::Device, "SetNetworkInterfaces", changed.toString()};
 }
 
-InterfaceChanger::InterfaceChanger(const QString &address, const Credentials &credentials,
-                                   std::chrono::milliseconds timeout, const InterfaceChange &change, bool apply,
-                                   Done done)
+InterfaceChanger::InterfaceChanger(const QString &address, const Access &access, const InterfaceChange &change,
+                                   bool apply, Done done)
     : m_url(deviceServiceUrl(address))
-    , m_client(credentials, timeout)
+    , m_client(access)
     , m_change(change)
     , m_apply(apply)
     , m_done(std::move(done))

@@ -32,9 +32,9 @@ public:
     /// What came of it: the message of the request if it came so far, and one sentence if it failed.
     using Done = std::function<void(const QByteArray &message, const QString &complaint)>;
 
-    /// \a address is a host with an optional port. Sends the request only if \a apply is true.
-    InterfaceChanger(const QString &address, const Credentials &credentials, std::chrono::milliseconds timeout,
-                     const InterfaceChange &change, bool apply, Done done);
+    /// \a address is one that deviceServiceUrl() takes. Sends the request only if \a apply is true.
+    InterfaceChanger(const QString &address, const Access &access, const InterfaceChange &change, bool apply,
+                     Done done);
 
     void start();
 

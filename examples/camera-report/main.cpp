@@ -27,15 +27,16 @@ int afterOutput(int exitCode)
 
 client::PasswordInput passwordFor(const client::Options &options, int stopDescriptor)
 {
-    return options.passwordFile.isEmpty() ? client::passwordFromTerminal(options.user, stopDescriptor)
-                                          : client::passwordFromFile(options.passwordFile);
+    return options.passwordFile.isEmpty()
+               ? client::passwordFromTerminal(options.access.credentials.user, stopDescriptor)
+               : client::passwordFromFile(options.passwordFile);
 }
 
-int run(const client::Options &options, const client::Credentials &credentials, int stopDescriptor)
+int run(const client::Options &options, int stopDescriptor)
 {
     QSocketNotifier stopped(stopDescriptor, QSocketNotifier::Read);
     QObject::connect(&stopped, &QSocketNotifier::activated, [] { QCoreApplication::exit(client::Stopped); });
-    client::Program program(options, credentials);
+    client::Program program(options);
     QMetaObject::invokeMethod(
         &program, [&program] { program.start(); }, Qt::QueuedConnection);
     const int exitCode = afterOutput(QCoreApplication::exec());
@@ -60,14 +61,14 @@ int main(int argc, char **argv)
     }
 
     const int stopDescriptor = example::catchStopSignals();
-    client::Credentials credentials{line.options->user, {}};
-    if (!credentials.isEmpty()) {
-        const client::PasswordInput input = passwordFor(*line.options, stopDescriptor);
+    client::Options options = *line.options;
+    if (!options.access.credentials.isEmpty()) {
+        const client::PasswordInput input = passwordFor(options, stopDescriptor);
         if (input.stopped)
             return client::Stopped;
         if (!input.password)
             return fail(input.complaint);
-        credentials.password = *input.password;
+        options.access.credentials.password = *input.password;
     }
-    return run(*line.options, credentials, stopDescriptor);
+    return run(options, stopDescriptor);
 }

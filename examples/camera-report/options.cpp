@@ -1,61 +1,49 @@
 #include "options.h"
 
+#include "addressfile.h"
+#include "help.h"
 #include "soap.h"
 
 #include <vorn/onvif/version.h>
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 
 namespace client {
 namespace {
 
-const char *const description =
-    R"(Shows what an ONVIF camera tells of itself, or searches for cameras.
-
-  camera-report --address HOST[:PORT]      a report on one camera
-  camera-report --interface NAME           the cameras in the network there
-  camera-report --interface NAME --all     the same, and a report on each
-  camera-report --address HOST[:PORT] --set-dhcp INTERFACE [--apply]
-                                           the request that sets a network
-                                           interface; --apply sends it
-
-The report goes to standard output. What happens, and each request that failed
-in one sentence, goes to standard error. With a user, requests carry a
-WS-UsernameToken, and Digest authentication of HTTP is answered; the password
-itself is never sent. Only the host that was asked is contacted: where a camera
-names another one for a service, it is asked itself.
-
-Exit codes: 0 the report is complete; 1 a request failed or brought a fault;
-2 the command line is wrong or the program lacks what it needs; 3 no camera
-was found; 130 stopped by Ctrl-C.)";
-
-/// The options as the parser takes them.
+/// The options as the parser takes them. The help is written by hand, in groups.
 struct Known
 {
-    QCommandLineOption help{{"h", "help"}, "Shows this help."};
-    QCommandLineOption version{{"v", "version"}, "Shows the version."};
-    QCommandLineOption address{"address", "The camera to report on. Without a PORT: 80.", "HOST[:PORT]"};
+    QCommandLineOption help{{"h", "help"}};
+    QCommandLineOption version{{"v", "version"}};
+    QCommandLineOption address{"address", {}, "ADDRESS"};
+    QCommandLineOption addresses{"addresses", {}, "FILE"};
     QCommandLineOption interface {
-        "interface", "The network interface of this machine to search through.", "NAME"
+        "interface", {}, "NAME"
     };
-    QCommandLineOption probeAddress{
-        "probe-address", "Where to send the probe of a search. Without it: 239.255.255.250:3702.", "ADDRESS:PORT"};
-    QCommandLineOption all{"all", "Reports on each camera that is found and names the address it answers from."};
-    QCommandLineOption user{"user", "The user of the camera. The password is asked for at the terminal.", "NAME"};
-    QCommandLineOption passwordFile{"password-file", "A file whose first line is the password.", "FILE"};
-    QCommandLineOption timeout{
-        "timeout", "How long to wait for each reply, and for the answers of a search. Without it: 5.", "SECONDS"};
-    QCommandLineOption setDhcp{"set-dhcp", "Lets INTERFACE of the camera take its address from DHCP.", "INTERFACE"};
-    QCommandLineOption setAddress{"set-address", "Gives INTERFACE of the camera an IPv4 address.",
-                                  "INTERFACE=ADDRESS/PREFIX"};
-    QCommandLineOption apply{"apply", "Sends the request that --set-dhcp or --set-address prints."};
-    QCommandLineOption json{"json", "Prints one line of JSON for each camera."};
-    QCommandLineOption quiet{"quiet", "Says nothing about what happens, but still what failed."};
+    QCommandLineOption probeAddress{"probe-address", {}, "IP:PORT"};
+    QCommandLineOption all{"all"};
+    QCommandLineOption user{"user", {}, "NAME"};
+    QCommandLineOption passwordFile{"password-file", {}, "FILE"};
+    QCommandLineOption insecure{"insecure"};
+    QCommandLineOption clockLimit{"clock-limit", {}, "DAYS", "7"};
+    QCommandLineOption timeout{"timeout", {}, "SECONDS", "5"};
+    QCommandLineOption jobs{"jobs", {}, "NUMBER", "16"};
+    QCommandLineOption json{"json"};
+    QCommandLineOption table{"table"};
+    QCommandLineOption save{"save", {}, "FOLDER"};
+    QCommandLineOption quiet{"quiet"};
+    QCommandLineOption setDhcp{"set-dhcp", {}, "INTERFACE"};
+    QCommandLineOption setAddress{"set-address", {}, "INTERFACE=ADDRESS/PREFIX"};
+    QCommandLineOption apply{"apply"};
 
     QList<QCommandLineOption> inOrder() const
     {
-        return {help,         version, address, interface,  probeAddress, all,  user,
-                passwordFile, timeout, setDhcp, setAddress, apply,        json, quiet};
+        return {help,  version,      address,  addresses,  interface,  probeAddress, all,
+                user,  passwordFile, insecure, clockLimit, timeout,    jobs,         json,
+                table, save,         quiet,    setDhcp,    setAddress, apply};
     }
 };
 
@@ -69,21 +57,39 @@ QString interfaceNames()
     return names.join(", ");
 }
 
+/// The number that \a option has; nothing if it has none from \a smallest to \a largest.
+std::optional<double> numberOf(const QCommandLineParser &parser, const QCommandLineOption &option, double smallest,
+                               double largest)
+{
+    bool isNumber = false;
+    const double number = parser.value(option).toDouble(&isNumber);
+    return isNumber && number >= smallest && number <= largest ? std::optional<double>(number) : std::nullopt;
+}
+
 // Each of these reads some of the options, and returns one sentence if they are wrong.
 
 QString readTarget(const QCommandLineParser &parser, Options &options)
 {
-    options.address = parser.value(known.address);
+    options.addresses = parser.values(known.address);
     options.all = parser.isSet(known.all);
-    const bool search = parser.isSet(known.interface) || parser.isSet(known.probeAddress);
-    if (parser.isSet(known.address) == search) {
-        return QString("Name one camera with --address, or with --interface where to search for cameras: %1.")
+    options.searches = parser.isSet(known.interface) || parser.isSet(known.probeAddress);
+    const bool isNamed = parser.isSet(known.address) || parser.isSet(known.addresses);
+    if (isNamed == options.searches) {
+        return QString("Name cameras with --address, or with --interface where to search for cameras: %1.")
             .arg(interfaceNames());
     }
-    if (!search && !deviceServiceUrl(options.address).isValid())
-        return QString("%1 is no address such as 192.0.2.7 or 192.0.2.7:8080.").arg(options.address);
-    if (!search && options.all)
+    if (isNamed && options.all)
         return "--all is for a search: give --interface instead of --address.";
+    for (const QString &address : std::as_const(options.addresses)) {
+        if (!deviceServiceUrl(address).isValid())
+            return QString("%1 is no address: %2").arg(address, addressForms);
+    }
+    for (const QString &file : parser.values(known.addresses)) {
+        const AddressList list = addressesIn(file);
+        if (!list.complaint.isEmpty())
+            return list.complaint;
+        options.addresses += list.addresses;
+    }
     return {};
 }
 
@@ -107,6 +113,49 @@ QString readProbe(const QCommandLineParser &parser, Options &options)
     return {};
 }
 
+QString readAccess(const QCommandLineParser &parser, Options &options)
+{
+    options.access.credentials.user = parser.value(known.user);
+    options.access.insecure = parser.isSet(known.insecure);
+    options.passwordFile = parser.value(known.passwordFile);
+    if (options.access.credentials.isEmpty() && (parser.isSet(known.user) || parser.isSet(known.passwordFile)))
+        return "--user wants the name of the user, also where --password-file is given.";
+    const auto seconds = numberOf(parser, known.timeout, 0.01, 3600);
+    if (!seconds)
+        return "--timeout wants a number of seconds from 0.01 to 3600.";
+    options.access.timeout = std::chrono::milliseconds(static_cast<qint64>(*seconds * 1000));
+    const auto days = numberOf(parser, known.clockLimit, 0, 100000);
+    if (!days)
+        return "--clock-limit wants a number of days from 0 to 100000.";
+    options.access.clockLimit = std::chrono::seconds(static_cast<qint64>(*days * 24 * 3600));
+    const auto jobs = numberOf(parser, known.jobs, 1, 1000);
+    if (!jobs)
+        return "--jobs wants a number from 1 to 1000.";
+    options.jobs = static_cast<int>(*jobs);
+    return {};
+}
+
+QString readForm(const QCommandLineParser &parser, Options &options)
+{
+    options.quiet = parser.isSet(known.quiet);
+    options.saveFolder = parser.value(known.save);
+    if (parser.isSet(known.json) && parser.isSet(known.table))
+        return "--json and --table exclude each other.";
+    if (parser.isSet(known.json))
+        options.form = Form::Json;
+    else if (parser.isSet(known.table))
+        options.form = Form::Table;
+    if (options.searches && !options.all && (options.form == Form::Table || parser.isSet(known.save)))
+        return "--table and --save go with --address, or with a search and --all.";
+    if (parser.isSet(known.save) && !QDir().mkpath(options.saveFolder))
+        return QString("The folder %1 cannot be made.").arg(options.saveFolder);
+    if (parser.isSet(known.save) && !QFileInfo(options.saveFolder).isWritable())
+        return QString("Nothing can be written to the folder %1.").arg(options.saveFolder);
+    if (!parser.positionalArguments().isEmpty())
+        return QString("%1 is not understood.").arg(parser.positionalArguments().constFirst());
+    return {};
+}
+
 QString readChange(const QCommandLineParser &parser, Options &options)
 {
     const bool setDhcp = parser.isSet(known.setDhcp);
@@ -121,36 +170,18 @@ QString readChange(const QCommandLineParser &parser, Options &options)
         if (!options.change)
             return QString("%1 has not the form eth0=192.0.2.7/24.").arg(parser.value(known.setAddress));
     }
-    if (options.change && options.address.isEmpty())
-        return "An interface can be set only of the camera that --address names.";
+    if (options.change && options.addresses.size() != 1)
+        return "An interface can be set only of the one camera that --address names.";
+    if (options.change && (options.form == Form::Table || !options.saveFolder.isEmpty()))
+        return "--table and --save are for reports.";
     if (options.apply && !options.change)
         return "--apply goes with --set-dhcp or --set-address.";
     return {};
 }
 
-QString readRest(const QCommandLineParser &parser, Options &options)
-{
-    options.user = parser.value(known.user);
-    options.passwordFile = parser.value(known.passwordFile);
-    options.json = parser.isSet(known.json);
-    options.quiet = parser.isSet(known.quiet);
-    if (options.user.isEmpty() && (parser.isSet(known.user) || parser.isSet(known.passwordFile)))
-        return "--user wants the name of the user, also where --password-file is given.";
-    if (parser.isSet(known.timeout)) {
-        bool isNumber = false;
-        const double seconds = parser.value(known.timeout).toDouble(&isNumber);
-        if (!isNumber || !(seconds >= 0.01 && seconds <= 3600))
-            return "--timeout wants a number of seconds from 0.01 to 3600.";
-        options.timeout = std::chrono::milliseconds(static_cast<qint64>(seconds * 1000));
-    }
-    if (!parser.positionalArguments().isEmpty())
-        return QString("%1 is not understood.").arg(parser.positionalArguments().constFirst());
-    return {};
-}
-
 QString readOptions(const QCommandLineParser &parser, Options &options)
 {
-    for (const auto read : {readRest, readTarget, readProbe, readChange}) {
+    for (const auto read : {readAccess, readTarget, readProbe, readForm, readChange}) {
         QString complaint = read(parser, options);
         if (!complaint.isEmpty())
             return complaint;
@@ -163,14 +194,13 @@ QString readOptions(const QCommandLineParser &parser, Options &options)
 CommandLine readCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(description);
     parser.addOptions(known.inOrder());
     CommandLine line;
     Options options;
     if (!parser.parse(arguments))
         line.complaint = parser.errorText();
     else if (parser.isSet(known.help))
-        line.answer = parser.helpText();
+        line.answer = helpText;
     else if (parser.isSet(known.version))
         line.answer = "camera-report " VORNSDK_ONVIF_VERSION_STRING "\n";
     else

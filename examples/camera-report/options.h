@@ -2,11 +2,11 @@
 
 #include "interfacechange.h"
 #include "probe.h"
+#include "soapclient.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-#include <chrono>
 #include <optional>
 
 namespace client {
@@ -20,18 +20,23 @@ enum ExitCode : int {
     Stopped = 130,    ///< The user stopped the program.
 };
 
+/// In which form cameras are shown.
+enum class Form { Text, Json, Table };
+
 /// What the user wants.
 struct Options
 {
-    QString address;   ///< of one camera; if empty, cameras are searched for
-    ProbeTarget probe; ///< where to
-    bool all = false;  ///< a report for each camera that is found
-    QString user;
+    QStringList addresses; ///< of the cameras to ask
+    bool searches = false; ///< whether cameras are searched for instead
+    ProbeTarget probe;     ///< where to
+    bool all = false;      ///< a report for each camera that is found
+    Access access;         ///< but for the password
     QString passwordFile;
-    std::chrono::milliseconds timeout = std::chrono::seconds(5);
+    int jobs = 16;      ///< how many are asked at once
+    QString saveFolder; ///< where replies are kept; empty: nowhere
     std::optional<InterfaceChange> change;
     bool apply = false;
-    bool json = false;
+    Form form = Form::Text;
     bool quiet = false;
 };
 

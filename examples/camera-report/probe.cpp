@@ -2,7 +2,7 @@
 
 #include <vorn/onvif/placeholderstring.h>
 
-#include <QtCore/QUrl>
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QUuid>
 #include <QtCore/QVariant>
 #include <QtNetwork/QNetworkDatagram>
@@ -24,6 +24,13 @@ const char *const probeTemplate =
 /// Many devices answer at once. The system may grant less.
 constexpr int receiveBuffer = 4 * 1024 * 1024;
 
+/// So many answers are read in one turn of the event loop. Whoever sends more than can be read must not keep the end of
+/// the search, or Ctrl-C, from its turn.
+constexpr int answersAtOnce = 32;
+
+/// At the end, what has come already is still read, within a bound.
+constexpr int lastTurns = 128;
+
 /// The address of \a interface that answers are to come back to.
 QHostAddress ownIPv4Address(const QNetworkInterface &interface)
 {
@@ -36,33 +43,10 @@ QHostAddress ownIPv4Address(const QNetworkInterface &interface)
 
 } // namespace
 
-QStringList FoundCamera::addresses() const
-{
-    QStringList all = camera.addresses + camera.linkLocalAddresses;
-    all.removeDuplicates();
-    return all;
-}
-
-QStringList FoundCamera::types() const
-{
-    QStringList types;
-    for (const QString &type : camera.scopes.values("type"))
-        types.prepend(type); // the last of the message comes first
-    return types;
-}
-
-QString FoundCamera::ownAddress() const
-{
-    for (const QString &address : addresses()) {
-        if (QHostAddress(QUrl("http://" + address).host()) == sender)
-            return address;
-    }
-    return {};
-}
-
-Probe::Probe(const ProbeTarget &target, std::chrono::milliseconds duration, Done done)
+Probe::Probe(const ProbeTarget &target, std::chrono::milliseconds duration, Found found, Done done)
     : m_target(target)
     , m_duration(duration)
+    , m_foundOne(std::move(found))
     , m_done(std::move(done))
     , m_message(vorn::PlaceHolderString(probeTemplate, "$@")
                     .arg(QUuid::createUuid().toString(QUuid::WithoutBraces))
@@ -88,8 +72,9 @@ QString Probe::start()
     m_again.start(m_duration / 4);
     connect(&m_end, &QTimer::timeout, this, [this] {
         m_again.stop();
-        receive();
-        m_done(m_found);
+        for (int turn = 0; turn < lastTurns && m_socket.hasPendingDatagrams(); ++turn)
+            receive();
+        m_done(m_result);
     });
     m_end.setSingleShot(true);
     m_end.start(m_duration);
@@ -105,25 +90,33 @@ QString Probe::send()
 
 void Probe::receive()
 {
-    while (m_socket.hasPendingDatagrams()) {
-        const QNetworkDatagram datagram = m_socket.receiveDatagram();
-        take(datagram.data(), datagram.senderAddress());
+    for (int count = 0; count < answersAtOnce && m_socket.hasPendingDatagrams(); ++count) {
+        const QNetworkDatagram datagram = m_socket.receiveDatagram(maximumAnswerSize + 1);
+        if (datagram.data().size() <= maximumAnswerSize)
+            take(datagram.data(), datagram.senderAddress());
     }
 }
 
 void Probe::take(const QByteArray &bytes, const QHostAddress &sender)
 {
-    FoundCamera found{vorn::OnvifCamera(bytes), sender};
-    if (!found.camera.isValid() || m_found.size() == maximumCameras)
+    const std::optional<FoundCamera> found = foundCamera(bytes, sender);
+    if (!found)
         return;
     // A camera answers each probe, and may do so on several ways. Its identity alone does not tell: some makers give
     // all their devices the same.
-    const QString endpoint = found.camera.response.getText("/EndpointReference/Address");
-    const QString key = endpoint + ' ' + found.addresses().join(' ');
+    const QString identity = found->endpoint + ' ' + found->addresses.join(' ');
+    const QByteArray key = QCryptographicHash::hash(identity.toUtf8(), QCryptographicHash::Sha256);
     if (m_known.contains(key))
         return;
+    if (m_result.isFull)
+        return;
+    m_result.isFull = m_result.found == maximumCameras || m_foundSize + found->size() > maximumFoundSize;
+    if (m_result.isFull)
+        return m_end.start(0); // there is nothing to wait for any more
     m_known.insert(key);
-    m_found.append(found);
+    m_foundSize += found->size();
+    ++m_result.found;
+    m_foundOne(*found);
 }
 
 } // namespace client

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <vorn/onvif/discovery.h>
+#include "foundcamera.h"
 
-#include <QtCore/QList>
+#include <QtCore/QByteArray>
 #include <QtCore/QObject>
 #include <QtCore/QSet>
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 #include <QtCore/QTimer>
 #include <QtNetwork/QHostAddress>
 #include <QtNetwork/QNetworkInterface>
@@ -17,25 +16,13 @@
 
 namespace client {
 
-/// No more cameras than this are taken note of in one search, so that nobody can fill the memory with answers.
+/// No more cameras than this are taken note of in one search, and no more bytes of what they say, so that nobody can
+/// fill the memory with answers.
 inline constexpr qsizetype maximumCameras = 4096;
+inline constexpr qsizetype maximumFoundSize = qsizetype(16) * 1024 * 1024;
 
-/// A camera that answered a probe.
-struct FoundCamera
-{
-    vorn::OnvifCamera camera;
-    QHostAddress sender; ///< who sent the answer
-
-    /// All addresses that the camera names.
-    QStringList addresses() const;
-
-    /// What kinds of device it is, in its own order.
-    QStringList types() const;
-
-    /// The first of the addresses that is the sender's; empty if none is. An answer may name anyone: whoever is asked,
-    /// and gets the user's credentials to see, has at least answered himself.
-    QString ownAddress() const;
-};
+/// Longer answers are not read: none of an honest device comes near.
+inline constexpr qsizetype maximumAnswerSize = qsizetype(16) * 1024;
 
 /// Where a probe is sent.
 struct ProbeTarget
@@ -45,14 +32,23 @@ struct ProbeTarget
     QNetworkInterface interface; ///< through which; if it is not valid, the system chooses
 };
 
+/// What a search came to.
+struct SearchResult
+{
+    qsizetype found = 0;
+    bool isFull = false; ///< whether more answered than are taken note of
+};
+
 /// Looks for cameras with WS-Discovery over IPv4.
 class Probe : public QObject
 {
 public:
-    using Done = std::function<void(const QList<FoundCamera> &)>;
+    using Found = std::function<void(const FoundCamera &)>;
+    using Done = std::function<void(const SearchResult &)>;
 
-    /// Waits for answers for all of \a duration, then calls \a done.
-    Probe(const ProbeTarget &target, std::chrono::milliseconds duration, Done done);
+    /// Waits for answers for all of \a duration, unless no more can be taken note of. Calls \a found for each camera when it answers for the first time,
+    /// and \a done at the end.
+    Probe(const ProbeTarget &target, std::chrono::milliseconds duration, Found found, Done done);
 
     /// Sends the probe. Returns one sentence if that fails, and then \a done is not called.
     QString start();
@@ -64,12 +60,14 @@ private:
 
     ProbeTarget m_target;
     std::chrono::milliseconds m_duration;
+    Found m_foundOne;
     Done m_done;
     QUdpSocket m_socket;
     QByteArray m_message;
-    QList<FoundCamera> m_found;
-    QSet<QString> m_known;
-    QTimer m_again; ///< when the probe is sent once more
+    SearchResult m_result;
+    qsizetype m_foundSize = 0;
+    QSet<QByteArray> m_known; ///< hashes of what tells a camera from others
+    QTimer m_again;           ///< when the probe is sent once more
     QTimer m_end;
 };
 

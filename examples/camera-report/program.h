@@ -1,15 +1,12 @@
 #pragma once
 
-#include "camerawalk.h"
-#include "credentials.h"
+#include "fleet.h"
 #include "interfacechange.h"
 #include "options.h"
+#include "printer.h"
 #include "probe.h"
 
-#include <QtCore/QList>
 #include <QtCore/QObject>
-#include <QtCore/QStringList>
-#include <QtCore/QTimer>
 
 #include <memory>
 
@@ -19,28 +16,28 @@ namespace client {
 class Program : public QObject
 {
 public:
-    Program(const Options &options, const Credentials &credentials);
+    explicit Program(const Options &options);
 
     void start();
 
 private:
     void search();
-    void show(const QList<FoundCamera> &found);
-    void reportOnNext();
-    void show(const Report &report);
+    void take(const FoundCamera &found);
+    void endSearch(const SearchResult &result);
+    void take(const Report &report);
     void changeInterface();
-    void show(const QByteArray &message, const QString &complaint);
-    void progress(const QString &line) const;
+    void showProgress();
+    void endIfDone();
     void complain(const QString &sentence);
 
     Options m_options;
-    Credentials m_credentials;
-    int m_exitCode = Complete;
-    QStringList m_addresses; ///< of the cameras that are still to be reported on
-    QTimer m_next;           ///< for the next of them
-    std::unique_ptr<Probe> m_probe;
-    std::unique_ptr<CameraWalk> m_walk;
+    Printer m_printer;
+    Fleet m_fleet;
+    std::unique_ptr<Probe> m_probe; ///< while it searches
     std::unique_ptr<InterfaceChanger> m_changer;
+    qsizetype m_found = 0;
+    int m_failed = 0; ///< reports that lack something
+    int m_exitCode = Complete;
 };
 
 } // namespace client

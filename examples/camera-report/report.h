@@ -1,5 +1,8 @@
 #pragma once
 
+#include "clock.h"
+#include "httpexchange.h"
+
 #include <vorn/onvif/device.h>
 #include <vorn/onvif/network.h>
 #include <vorn/onvif/profiles.h>
@@ -11,6 +14,7 @@
 #include <QtCore/QString>
 
 #include <optional>
+#include <vector>
 
 namespace client {
 
@@ -21,29 +25,55 @@ struct Failure
     QString sentence;
 };
 
-/// What a device has told: a record for each request that it answered.
+/// A part of a report: what the device answered or, in one sentence, why there is no answer.
+template <typename Record>
+struct Section
+{
+    std::optional<Record> record;
+    QString notAnswered;
+};
+
+/// Where a profile is seen.
+struct ProfileUris
+{
+    Section<QString> streamOverUdp;
+    Section<QString> streamOverTcp;
+    Section<QString> snapshot;
+};
+
+/// What a device has told.
 struct Report
 {
     QString address;
-    std::optional<vorn::OnvifDeviceInformation> information;
-    std::optional<vorn::OnvifCapabilities> capabilities;
-    std::optional<vorn::OnvifScopeMap> scopes;
-    std::optional<vorn::OnvifProfileVector> profiles;
-    std::optional<vorn::OnvifNetworkInterfaceVector> interfaces;
-    std::optional<vorn::OnvifNetworkGateway> gateway;
-    std::optional<vorn::OnvifRelayOutputVector> relays;
+    Tls tls;
+    Section<ClockReading> clock;
+    Section<vorn::OnvifDeviceInformation> information;
+    Section<vorn::OnvifCapabilities> capabilities;
+    Section<vorn::OnvifScopeMap> scopes;
+    Section<vorn::OnvifProfileVector> profiles;
+    std::vector<ProfileUris> uris; ///< one for each profile
+    Section<vorn::OnvifNetworkInterfaceVector> interfaces;
+    Section<vorn::OnvifNetworkGateway> gateway;
+    Section<vorn::OnvifRelayOutputVector> relays;
     QList<Failure> failures;
-    bool refused = false; ///< whether a request failed for want of a valid user and password
 
     /// Whether the device has answered nothing at all.
     bool isEmpty() const
     {
-        return !(information || capabilities || scopes || profiles || interfaces || gateway || relays);
+        return !(clock.record || information.record || capabilities.record || scopes.record || profiles.record
+                 || interfaces.record || gateway.record || relays.record);
     }
 };
 
+/// The failures, with a line for each sentence: the requests that it is said of, and the sentence.
+QStringList linesOf(const QList<Failure> &failures);
+
 /// The report for a person to read. Ends with a line end.
 QString textOf(const Report &report);
+
+/// One line for a table, and that above it.
+QString tableLineOf(const Report &report);
+QString tableHeading();
 
 /// The report for programs: the fields by the names that they have in the records.
 QJsonObject jsonOf(const Report &report);

@@ -1,38 +1,59 @@
-#include "report.h"
-
-#include <QtCore/QJsonArray>
+#include "given.h"
+#include "jsonparts.h"
 
 namespace client {
 namespace {
 
-using Interface = vorn::OnvifNetworkInterface;
+QJsonValue jsonOf(const Tls &tls)
+{
+    if (tls.fingerprint.isEmpty())
+        return {};
+    return QJsonObject{{"fingerprint", QString::fromLatin1(tls.fingerprint)},
+                       {"isTrusted", tls.doubt.isEmpty()},
+                       {"doubt", tls.doubt.isEmpty() ? QJsonValue() : QJsonValue(tls.doubt)}};
+}
 
-/// An array with what \a jsonOfEntry makes of each element of \a list.
-template <typename Entry>
-QJsonArray jsonOfAll(const QList<Entry> &list, QJsonObject (*jsonOfEntry)(const Entry &))
+QJsonArray jsonOf(const QList<Failure> &failures)
 {
     QJsonArray array;
-    for (const Entry &entry : list)
-        array.append(jsonOfEntry(entry));
+    for (const Failure &failure : failures)
+        array.append(QJsonObject{{"request", failure.request}, {"sentence", failure.sentence}});
     return array;
 }
 
-QJsonObject jsonOf(const Failure &failure)
+QJsonObject informationJson(const vorn::OnvifDeviceInformation &information)
 {
-    return {{"request", failure.request}, {"sentence", failure.sentence}};
+    return {{"manufacturer", orNull(information.manufacturer)},
+            {"model", orNull(information.model)},
+            {"firmwareVersion", orNull(information.firmwareVersion)},
+            {"serialNumber", orNull(information.serialNumber)},
+            {"hardwareId", orNull(information.hardwareId)}};
 }
 
-QJsonObject jsonOf(const vorn::OnvifDeviceInformation &information)
+QJsonObject clockJson(const ClockReading &reading)
 {
-    return {{"manufacturer", information.manufacturer},
-            {"model", information.model},
-            {"firmwareVersion", information.firmwareVersion},
-            {"serialNumber", information.serialNumber},
-            {"hardwareId", information.hardwareId}};
+    const auto time = [](const QDateTime &value, const char *end) {
+        return value.isValid() ? QJsonValue(value.toString("yyyy-MM-ddTHH:mm:ss") + end) : QJsonValue();
+    };
+    return {{"utc", time(reading.clock.utc, "Z")},
+            {"local", time(reading.clock.local, "")},
+            {"zone", orNull(reading.clock.zone)},
+            {"daylightSaving", orNull(flagOf(reading.clock.daylightSaving))},
+            {"setBy", orNull(reading.clock.source)},
+            {"secondsAhead", orNull(reading.secondsAhead)},
+            {"isUsed", reading.isUsed}};
+}
+
+QJsonArray versionsJson(const vorn::OnvifCapabilities &capabilities)
+{
+    QJsonArray versions;
+    for (const auto &version : capabilities.device.system.supportedVersions)
+        versions.append(QString("%1.%2").arg(version.major).arg(version.minor));
+    return versions;
 }
 
 /// The address of each service that the device has.
-QJsonObject jsonOf(const vorn::OnvifCapabilities &capabilities)
+QJsonObject servicesJson(const vorn::OnvifCapabilities &capabilities)
 {
     const std::pair<const char *, QString> services[] = {
         {"device", capabilities.device.xAddr},
@@ -56,101 +77,54 @@ QJsonObject jsonOf(const vorn::OnvifCapabilities &capabilities)
     return json;
 }
 
-QJsonObject jsonOf(const vorn::OnvifScope &scope)
+QJsonObject scopeJson(const vorn::OnvifScope &scope)
 {
-    return {{"uri", scope.uri}, {"key", scope.key}, {"value", scope.value}};
+    QJsonValue definition;
+    if (scope.type == vorn::OnvifScope::Fixed)
+        definition = "Fixed";
+    else if (scope.type == vorn::OnvifScope::Configurable)
+        definition = "Configurable";
+    return {{"definition", definition},
+            {"uri", orNull(scope.uri)},
+            {"key", orNull(scope.key)},
+            {"value", orNull(scope.value)}};
 }
 
-QJsonValue jsonOf(const vorn::OnvifVideoEncoderConfiguration &video)
+QJsonArray scopesJson(const vorn::OnvifScopeMap &scopes)
 {
-    if (video.isNull())
-        return {};
-    return QJsonObject{{"encoding", video.encoding},
-                       {"width", video.resolution.width()},
-                       {"height", video.resolution.height()},
-                       {"frameRateLimit", video.frameRateLimit},
-                       {"bitrateLimit", video.bitrateLimit}};
+    QJsonArray array;
+    for (const QString &key : scopes.uniqueKeys()) {
+        QJsonArray ofKey;
+        for (const vorn::OnvifScope &scope : scopes.values(key))
+            ofKey.prepend(scopeJson(scope)); // the last of the reply comes first
+        for (const auto scope : std::as_const(ofKey))
+            array.append(scope);
+    }
+    return array;
 }
 
-QJsonValue jsonOf(const vorn::OnvifAudioEncoderConfiguration &audio)
+QJsonObject gatewayJson(const vorn::OnvifNetworkGateway &gateway)
 {
-    if (audio.isNull())
-        return {};
-    return QJsonObject{{"encoding", audio.encoding}, {"bitrate", audio.bitrate}, {"sampleRate", audio.sampleRate}};
-}
-
-QJsonObject jsonOf(const vorn::OnvifProfile &profile)
-{
-    return {{"name", profile.name},
-            {"token", profile.token},
-            {"fixed", profile.fixed},
-            {"videoEncoder", jsonOf(profile.videoEncoder)},
-            {"audioEncoder", jsonOf(profile.audioEncoder)}};
-}
-
-QJsonObject jsonOf(const Interface::PrefixedAddress &address)
-{
-    return {{"address", address.address}, {"prefixLength", address.prefixLength}};
-}
-
-QJsonObject jsonOf(const Interface::IPv4 &ipv4)
-{
-    return {{"enabled", ipv4.enabled},
-            {"dhcp", ipv4.config.dhcp},
-            {"manual", jsonOfAll(ipv4.config.manual, jsonOf)},
-            {"linkLocal", jsonOf(ipv4.config.linkLocal)},
-            {"fromDHCP", jsonOf(ipv4.config.fromDHCP)}};
-}
-
-QJsonObject jsonOf(const Interface::IPv6 &ipv6)
-{
-    return {{"enabled", ipv6.enabled},
-            {"dhcp", vPrintable(ipv6.config.dhcp)},
-            {"manual", jsonOfAll(ipv6.config.manual, jsonOf)},
-            {"linkLocal", jsonOfAll(ipv6.config.linkLocal, jsonOf)},
-            {"fromDHCP", jsonOfAll(ipv6.config.fromDHCP, jsonOf)},
-            {"fromRA", jsonOfAll(ipv6.config.fromRA, jsonOf)}};
-}
-
-QJsonObject jsonOf(const Interface &card)
-{
-    return {{"name", card.name}, {"token", card.token},       {"enabled", card.enabled},  {"hwAddress", card.hwAddress},
-            {"mtu", card.mtu},   {"ipv4", jsonOf(card.ipv4)}, {"ipv6", jsonOf(card.ipv6)}};
-}
-
-QJsonObject jsonOf(const vorn::OnvifNetworkGateway &gateway)
-{
-    return {{"ipv4Address", gateway.ipv4Address}, {"ipv6Address", gateway.ipv6Address}};
-}
-
-QJsonObject jsonOf(const vorn::OnvifRelayOutput &relay)
-{
-    return {{"token", relay.token},
-            {"mode", vPrintable(relay.mode)},
-            {"delayTime", relay.delayTime},
-            {"idleState", vPrintable(relay.idleState)}};
+    return {{"ipv4Address", orNull(gateway.ipv4Address)}, {"ipv6Address", orNull(gateway.ipv6Address)}};
 }
 
 } // namespace
 
 QJsonObject jsonOf(const Report &report)
 {
-    QJsonObject json{{"address", report.address}, {"failures", jsonOfAll(report.failures, jsonOf)}};
-    if (report.information)
-        json.insert("information", jsonOf(*report.information));
-    if (report.capabilities)
-        json.insert("services", jsonOf(*report.capabilities));
-    if (report.scopes)
-        json.insert("scopes", jsonOfAll(report.scopes->values(), jsonOf));
-    if (report.profiles)
-        json.insert("profiles", jsonOfAll<vorn::OnvifProfile>(*report.profiles, jsonOf));
-    if (report.interfaces)
-        json.insert("interfaces", jsonOfAll<Interface>(*report.interfaces, jsonOf));
-    if (report.gateway)
-        json.insert("gateway", jsonOf(*report.gateway));
-    if (report.relays)
-        json.insert("relays", jsonOfAll<vorn::OnvifRelayOutput>(*report.relays, jsonOf));
-    return json;
+    return {{"address", report.address},
+            {"tls", jsonOf(report.tls)},
+            {"information", sectionJson(report.information, informationJson)},
+            {"clock", sectionJson(report.clock, clockJson)},
+            {"versions", sectionJson(report.capabilities, versionsJson)},
+            {"services", sectionJson(report.capabilities, servicesJson)},
+            {"scopes", sectionJson(report.scopes, scopesJson)},
+            {"profiles",
+             sectionJson(report.profiles, [&](const vorn::OnvifProfileVector &) { return profilesJson(report); })},
+            {"interfaces", sectionJson(report.interfaces, interfacesJson)},
+            {"gateway", sectionJson(report.gateway, gatewayJson)},
+            {"relays", sectionJson(report.relays, relaysJson)},
+            {"failures", jsonOf(report.failures)}};
 }
 
 } // namespace client

@@ -1,68 +1,81 @@
+#include "given.h"
 #include "report.h"
-#include "support/terminal.h"
+#include "textparts.h"
 
 #include <QtCore/QSize>
 #include <QtCore/QStringList>
 
+#include <cstdlib>
+
 namespace client {
 namespace {
-
-using Interface = vorn::OnvifNetworkInterface;
-
-/// Lines of text that are safe to show.
-class Lines
-{
-public:
-    void heading(const QString &title, bool isEmpty = false)
-    {
-        m_text += '\n' + title + '\n';
-        if (isEmpty)
-            line(1, "none");
-    }
-
-    void line(int depth, const QString &content)
-    {
-        m_text += QString(qsizetype(2) * depth, ' ') + example::printable(content) + '\n';
-    }
-
-    /// A line for a value, unless the device gave none.
-    void field(int depth, const QString &name, const QString &value)
-    {
-        if (!value.isEmpty())
-            line(depth, name + ": " + value);
-    }
-
-    QString text() const { return m_text; }
-
-private:
-    QString m_text;
-};
-
-/// What of \a parts is not empty, with commas.
-QString joined(QStringList parts)
-{
-    parts.removeAll(QString());
-    return parts.join(", ");
-}
-
-/// A number with its unit; empty if the device gave none.
-QString amount(int number, const char *unit)
-{
-    return number > 0 ? QString("%1 %2").arg(number).arg(unit) : QString();
-}
 
 QString text(const QSize &size)
 {
     return size.isEmpty() ? QString() : QString("%1x%2").arg(size.width()).arg(size.height());
 }
 
-/// "a (b)", or only one of them if the other adds nothing.
-QString withToken(const QString &name, const QString &token)
+/// \a time to the second.
+QString text(const QDateTime &time)
 {
-    if (name.isEmpty() || name == token)
-        return token;
-    return token.isEmpty() ? name : QString("%1 (%2)").arg(name, token);
+    return time.toString("yyyy-MM-dd HH:mm:ss");
 }
+
+QString notAnswered(const QString &why)
+{
+    return "not answered: " + why;
+}
+
+void writeUri(Lines &lines, const QString &name, const Section<QString> &uri)
+{
+    if (!uri.record)
+        lines.field(2, name, notAnswered(uri.notAnswered));
+    else
+        lines.field(2, name, uri.record->isEmpty() ? "none" : *uri.record);
+}
+
+void write(Lines &lines, const vorn::OnvifProfile &profile, const ProfileUris &uris)
+{
+    const auto &video = profile.videoEncoder;
+    const auto &audio = profile.audioEncoder;
+    const QString name = withToken(profile.name, profile.token);
+    lines.line(1, (name.isEmpty() ? "without a name" : name) + (profile.fixed ? ", fixed" : ""));
+    lines.field(2, "Source", profile.videoSource.sourceToken);
+    lines.field(2, "Video",
+                joined({video.encoding, text(video.resolution), amount(video.frameRateLimit, "frames/s"),
+                        amount(video.bitrateLimit, "kbit/s")}));
+    lines.field(2, "Audio", joined({audio.encoding, amount(audio.bitrate, "kbit/s"), amount(audio.sampleRate, "kHz")}));
+    lines.field(2, "PTZ", withToken(profile.ptz.name, profile.ptz.token));
+    lines.field(2, "Analytics", withToken(profile.videoAnalytics.name, profile.videoAnalytics.token));
+    lines.field(2, "Metadata", withToken(profile.metadata.name, profile.metadata.token));
+    writeUri(lines, "Stream over UDP", uris.streamOverUdp);
+    writeUri(lines, "Stream over TCP", uris.streamOverTcp);
+    writeUri(lines, "Snapshot", uris.snapshot);
+}
+
+/// The section \a title, or why it is not there.
+template <typename Record>
+void writeSection(Lines &lines, const QString &title, const Section<Record> &section)
+{
+    if (section.record)
+        return write(lines, *section.record);
+    lines.heading(title);
+    lines.line(1, notAnswered(section.notAnswered));
+}
+
+void writeProfiles(Lines &lines, const Report &report)
+{
+    if (!report.profiles.record) {
+        lines.heading("Profiles");
+        return lines.line(1, notAnswered(report.profiles.notAnswered));
+    }
+    lines.heading("Profiles", report.profiles.record->isEmpty());
+    std::size_t index = 0;
+    for (const vorn::OnvifProfile &profile : *report.profiles.record)
+        write(lines, profile, report.uris.at(index++));
+}
+
+} // namespace
 
 void write(Lines &lines, const vorn::OnvifDeviceInformation &information)
 {
@@ -72,6 +85,26 @@ void write(Lines &lines, const vorn::OnvifDeviceInformation &information)
     lines.field(1, "Firmware", information.firmwareVersion);
     lines.field(1, "Serial number", information.serialNumber);
     lines.field(1, "Hardware", information.hardwareId);
+}
+
+void write(Lines &lines, const ClockReading &reading)
+{
+    const DeviceClock &clock = reading.clock;
+    const bool agrees = reading.secondsAhead == 0;
+    lines.heading("Clock");
+    lines.field(1, "Time", clock.utc.isValid() ? text(clock.utc) + " UTC" : "none that can be");
+    lines.field(1, "Local time", text(clock.local));
+    lines.field(1, "Zone", clock.zone);
+    if (const auto daylightSaving = flagOf(clock.daylightSaving))
+        lines.field(1, "Daylight saving", *daylightSaving ? "on" : "off");
+    lines.field(1, "Set by", clock.source);
+    if (reading.secondsAhead) {
+        const QString amount = duration(std::llabs(*reading.secondsAhead));
+        lines.field(1, "Beside this machine",
+                    agrees ? "the same" : amount + (*reading.secondsAhead > 0 ? " ahead" : " behind"));
+        if (!reading.isUsed)
+            lines.field(1, "Not used", "proofs of who asks do not go by it, as --clock-limit wants");
+    }
 }
 
 void write(Lines &lines, const vorn::OnvifCapabilities &capabilities)
@@ -107,120 +140,44 @@ void write(Lines &lines, const vorn::OnvifScopeMap &scopes)
     }
 }
 
-void write(Lines &lines, const vorn::OnvifProfile &profile)
-{
-    const auto &video = profile.videoEncoder;
-    const auto &audio = profile.audioEncoder;
-    const QString name = withToken(profile.name, profile.token);
-    lines.line(1, (name.isEmpty() ? "without a name" : name) + (profile.fixed ? ", fixed" : ""));
-    lines.field(2, "Source", profile.videoSource.sourceToken);
-    lines.field(2, "Video",
-                joined({video.encoding, text(video.resolution), amount(video.frameRateLimit, "frames/s"),
-                        amount(video.bitrateLimit, "kbit/s")}));
-    lines.field(2, "Audio", joined({audio.encoding, amount(audio.bitrate, "kbit/s"), amount(audio.sampleRate, "kHz")}));
-    lines.field(2, "PTZ", withToken(profile.ptz.name, profile.ptz.token));
-    lines.field(2, "Analytics", withToken(profile.videoAnalytics.name, profile.videoAnalytics.token));
-    lines.field(2, "Metadata", withToken(profile.metadata.name, profile.metadata.token));
-}
-
-void write(Lines &lines, const vorn::OnvifProfileVector &profiles)
-{
-    lines.heading("Profiles", profiles.isEmpty());
-    for (const vorn::OnvifProfile &profile : profiles)
-        write(lines, profile);
-}
-
-QString text(const Interface::PrefixedAddress &address)
-{
-    return address.address + '/' + QString::number(address.prefixLength);
-}
-
-QStringList texts(const QList<Interface::PrefixedAddress> &addresses, const QString &origin)
-{
-    QStringList result;
-    for (const Interface::PrefixedAddress &address : addresses)
-        result += text(address) + origin;
-    return result;
-}
-
-QString text(const Interface::IPv4 &ipv4)
-{
-    if (!ipv4.enabled)
-        return "off";
-    QStringList parts = texts(ipv4.config.manual, "");
-    if (!ipv4.config.fromDHCP.address.isEmpty())
-        parts += text(ipv4.config.fromDHCP) + " from DHCP";
-    if (!ipv4.config.linkLocal.address.isEmpty())
-        parts += text(ipv4.config.linkLocal) + " link-local";
-    parts += ipv4.config.dhcp ? "DHCP on" : "DHCP off";
-    return parts.join(", ");
-}
-
-QString text(const Interface::IPv6 &ipv6)
-{
-    if (!ipv6.enabled)
-        return "off";
-    const QStringList parts = texts(ipv6.config.manual, "") + texts(ipv6.config.fromDHCP, " from DHCP")
-                              + texts(ipv6.config.fromRA, " advertised") + texts(ipv6.config.linkLocal, " link-local")
-                              + QStringList("DHCP " + vPrintable(ipv6.config.dhcp));
-    return parts.join(", ");
-}
-
-void write(Lines &lines, const vorn::OnvifNetworkInterfaceVector &interfaces)
-{
-    lines.heading("Network interfaces", interfaces.isEmpty());
-    for (const Interface &card : interfaces) {
-        lines.line(1, withToken(card.name, card.token) + (card.enabled ? "" : ", off"));
-        lines.field(2, "Hardware address", card.hwAddress);
-        lines.field(2, "MTU", amount(card.mtu, "bytes"));
-        if (card.operSettings.present)
-            lines.field(2, "Link",
-                        joined({amount(card.operSettings.speed, "Mbit/s"),
-                                vPrintable(card.operSettings.duplex).toLower() + " duplex"}));
-        lines.field(2, "IPv4", text(card.ipv4));
-        lines.field(2, "IPv6", text(card.ipv6));
-    }
-}
-
-void write(Lines &lines, const vorn::OnvifNetworkGateway &gateway)
-{
-    lines.heading("Default gateway", gateway.ipv4Address.isEmpty() && gateway.ipv6Address.isEmpty());
-    lines.field(1, "IPv4", gateway.ipv4Address);
-    lines.field(1, "IPv6", gateway.ipv6Address);
-}
-
-void write(Lines &lines, const vorn::OnvifRelayOutputVector &relays)
-{
-    lines.heading("Relay outputs", relays.isEmpty());
-    for (const vorn::OnvifRelayOutput &relay : relays) {
-        const bool fallsBack = relay.mode == vorn::OnvifRelayOutput::Monostable && !relay.delayTime.isEmpty();
-        lines.line(1, relay.token + ": "
-                          + joined({vPrintable(relay.mode).toLower() + (fallsBack ? " for " + relay.delayTime : ""),
-                                    "idle state " + vPrintable(relay.idleState).toLower()}));
-    }
-}
-
-template <typename Record>
-void writeIfThere(Lines &lines, const std::optional<Record> &record)
-{
-    if (record)
-        write(lines, *record);
-}
-
-} // namespace
-
 QString textOf(const Report &report)
 {
     Lines lines;
     lines.line(0, "Camera at " + report.address);
-    writeIfThere(lines, report.information);
-    writeIfThere(lines, report.capabilities);
-    writeIfThere(lines, report.scopes);
-    writeIfThere(lines, report.profiles);
-    writeIfThere(lines, report.interfaces);
-    writeIfThere(lines, report.gateway);
-    writeIfThere(lines, report.relays);
+    if (!report.tls.fingerprint.isEmpty()) {
+        const QString doubt = report.tls.doubt.isEmpty() ? "trusted" : "not trusted: " + report.tls.doubt;
+        lines.field(1, "Certificate", doubt);
+        lines.field(1, "Fingerprint", "SHA-256 " + QString::fromLatin1(report.tls.fingerprint));
+    }
+    writeSection(lines, "Device", report.information);
+    writeSection(lines, "Clock", report.clock);
+    writeSection(lines, "Services", report.capabilities);
+    writeSection(lines, "Scopes", report.scopes);
+    writeProfiles(lines, report);
+    writeSection(lines, "Network interfaces", report.interfaces);
+    writeSection(lines, "Default gateway", report.gateway);
+    writeSection(lines, "Relay outputs", report.relays);
     return lines.text();
+}
+
+QStringList linesOf(const QList<Failure> &failures)
+{
+    QStringList lines;
+    QStringList sentences;
+    for (const Failure &failure : failures) {
+        if (!sentences.contains(failure.sentence))
+            sentences += failure.sentence;
+    }
+    for (const QString &sentence : std::as_const(sentences)) {
+        QStringList requests;
+        for (const Failure &failure : failures) {
+            if (failure.sentence == sentence)
+                requests += failure.request;
+        }
+        requests.removeDuplicates();
+        lines += requests.join(", ") + ": " + sentence;
+    }
+    return lines;
 }
 
 } // namespace client

@@ -1,131 +1,40 @@
 #include "soapclient.h"
 
 #include <QtCore/QDateTime>
-#include <QtCore/QTimeZone>
+#include <QtCore/QThreadPool>
 #include <QtCore/QUuid>
 #include <QtNetwork/QNetworkProxy>
 #include <QtNetwork/QNetworkRequest>
+
+#include <cstdlib>
 
 namespace client {
 namespace {
 
 const Request clockRequest{Service::Device, "GetSystemDateAndTime"};
 
-/// The time that a device tells, in UTC. Not valid if it tells none.
-QDateTime timeIn(const QByteArray &bytes)
+/// A proof that was right but for its nonce is made anew, once: a device could ask for that for ever.
+constexpr int mostChallenges = 2;
+
+/// Destroys \a manager, which waits for a thread of its own: for seconds if a device floods the head of its reply. The
+/// event loop, which has other devices to serve, must not.
+void dispose(std::unique_ptr<QNetworkAccessManager> manager)
 {
-    vorn::XmlResponse response(bytes, "/Envelope/Body/GetSystemDateAndTimeResponse/SystemDateAndTime/UTCDateTime");
-    const auto number = [&](const char *path) { return static_cast<int>(response.getUInt(path)); };
-    const QDate date(number("/Date/Year"), number("/Date/Month"), number("/Date/Day"));
-    const QTime time(number("/Time/Hour"), number("/Time/Minute"), number("/Time/Second"));
-    return {date, time, QTimeZone::utc()};
+    manager->moveToThread(nullptr);
+    QThreadPool::globalInstance()->start([doomed = manager.release()] { delete doomed; });
 }
 
-/// What the library is given: the reply if it says something, else a document that stands for the failure.
-QByteArray documentOf(const HttpReply &reply)
-{
-    if (reply.failure != TransportFailure::None)
-        return bareFault(reply.failure);
-    const bool isGood = reply.status / 100 == 2;
-    if (isGood)
-        return reply.body.trimmed().isEmpty() ? bareFault(TransportFailure::EmptyReply) : reply.body;
-    // Faults come with a status of their own. Anything else that does says less than its status.
-    vorn::XmlResponse response(reply.body, "/Envelope/Body/Fault");
-    return response.getText("/Code/Value").isNull() ? statusPage(reply.status) : reply.body;
-}
-
-QString remarkOn(const HttpReply &reply, vorn::OnvifFault &fault)
-{
-    if (reply.failure != TransportFailure::None)
-        return reply.failureText;
-    const QString reason = fault.response.getText("/Envelope/Body/Fault/Reason/Text").simplified();
-    if (!reason.isEmpty())
-        return QString("the device says: %1").arg(reason);
-    if (reply.status / 100 == 3)
-        return QString("HTTP status %1: the device sends on to another address, which is not followed")
-            .arg(reply.status);
-    return reply.status / 100 == 2 ? QString() : QString("HTTP status %1 %2").arg(reply.status).arg(reply.statusText);
-}
-
-HttpReply failed(TransportFailure failure, const QString &text)
+HttpReply failed(TransportFailure failure, const QUrl &url)
 {
     HttpReply reply;
+    reply.url = url;
     reply.failure = failure;
-    reply.failureText = text;
+    reply.failureText = url.toString();
     return reply;
 }
 
-} // namespace
-
-QString Answer::complaint() const
+QNetworkRequest httpRequest(const QUrl &url, const Request &request)
 {
-    QString sentence;
-    if (fault.hasError()) {
-        sentence = fault.toString();
-    } else {
-        vorn::XmlResponse response = fault.response; // queries are not const
-        if (!response.getText(QString("/Envelope/Body/%1Response").arg(action)).isNull())
-            return {};
-        sentence = "The device gave no answer that can be read.";
-    }
-    return remark.isEmpty() ? sentence : QString("%1 (%2)").arg(sentence, remark);
-}
-
-bool Answer::isRefusal() const
-{
-    return fault.is(vorn::OnvifFault::Sender, vorn::OnvifFault::NotAuthorized)
-           || fault.is(vorn::OnvifFault::HttpUnauthorised);
-}
-
-SoapClient::SoapClient(const Credentials &credentials, std::chrono::milliseconds timeout)
-    : m_credentials(credentials)
-    , m_timeout(timeout)
-{
-    m_manager.setProxy(QNetworkProxy::NoProxy); // devices stand in the own network
-}
-
-void SoapClient::ask(const QUrl &url, const Request &request, const Done &done)
-{
-    if (m_credentials.isEmpty() || m_clockAhead)
-        askOfKnownClock(url, request, done);
-    else
-        askClock(url, request, done);
-}
-
-void SoapClient::askClock(const QUrl &url, const Request &request, const Done &done)
-{
-    post(url, clockRequest, false, [=](const HttpReply &reply) {
-        const Answer answer = answerTo(clockRequest, reply);
-        if (!answer.received)
-            return done(answer);
-        const QDateTime now = QDateTime::currentDateTimeUtc();
-        const QDateTime deviceTime = timeIn(answer.bytes);
-        m_clockAhead = deviceTime.isValid() ? now.secsTo(deviceTime) : 0;
-        askOfKnownClock(url, request, done);
-    });
-}
-
-void SoapClient::askOfKnownClock(const QUrl &url, const Request &request, const Done &done)
-{
-    post(url, request, true, [=](const HttpReply &reply) {
-        // The device wants Digest authentication of HTTP, or wants it anew.
-        const auto challenge =
-            reply.status == 401 && !m_credentials.isEmpty() ? digestChallenge(reply.challenge) : std::nullopt;
-        if (!challenge)
-            return done(answerTo(request, reply));
-        m_challenge = challenge;
-        m_challengeUses = 0;
-        post(url, request, true, [=](const HttpReply &second) { done(answerTo(request, second)); });
-    });
-}
-
-void SoapClient::post(const QUrl &url, const Request &request, bool authenticated, const HttpExchange::Done &done)
-{
-    if (!url.isValid() || url.host().isEmpty())
-        return done(failed(TransportFailure::BadUrl, url.toString()));
-    if (url.scheme() != "http" && url.scheme() != "https")
-        return done(failed(TransportFailure::UnsupportedProtocol, url.toString()));
-
     QNetworkRequest http(url);
     http.setHeader(QNetworkRequest::ContentTypeHeader, contentType(request));
     http.setHeader(QNetworkRequest::UserAgentHeader, "camera-report");
@@ -133,14 +42,106 @@ void SoapClient::post(const QUrl &url, const Request &request, bool authenticate
     http.setRawHeader("Accept-Encoding", "identity"); // so that nothing swells while it is unpacked
     http.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
     http.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    // Qt itself would answer challenges, also of NTLM and Negotiate, with what it knows of the user of this machine.
+    http.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    http.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    http.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    return http;
+}
 
+} // namespace
+
+SoapClient::SoapClient(const Access &access)
+    : m_manager(std::make_unique<QNetworkAccessManager>())
+    , m_access(access)
+{
+    m_manager->setProxy(QNetworkProxy::NoProxy); // devices stand in the own network
+}
+
+SoapClient::~SoapClient()
+{
+    qDeleteAll(findChildren<HttpExchange *>(QString(), Qt::FindDirectChildrenOnly));
+    dispose(std::move(m_manager));
+}
+
+void SoapClient::askClock(const QUrl &url, const ClockDone &done)
+{
+    const QDateTime sent = QDateTime::currentDateTimeUtc();
+    post(url, clockRequest, false, [=](const HttpReply &reply) {
+        const Answer answer(clockRequest, reply, ++m_answers);
+        ClockReading reading;
+        if (answer.isReply) {
+            reading.clock = clockIn(answer.bytes);
+            reading.secondsAhead = reading.clock.secondsAhead(sent, QDateTime::currentDateTimeUtc());
+        }
+        reading.isUsed = reading.secondsAhead && std::abs(*reading.secondsAhead) <= m_access.clockLimit.count();
+        m_clock = reading;
+        done(answer, reading);
+    });
+}
+
+void SoapClient::ask(const QUrl &url, const Request &request, const Done &done)
+{
+    if (m_access.credentials.isEmpty() || m_clock)
+        return askOfKnownClock(url, request, 0, done);
+    askClock(url, [=](const Answer &answer, const ClockReading &) {
+        if (isFinal(answer.http.failure) || answer.http.isSilence)
+            done(answer);
+        else
+            askOfKnownClock(url, request, 0, done);
+    });
+}
+
+void SoapClient::askOfKnownClock(const QUrl &url, const Request &request, int challenges, const Done &done)
+{
+    post(url, request, true, [=](const HttpReply &reply) {
+        // The device wants Digest authentication of HTTP, or wants it anew.
+        const auto challenge =
+            reply.status == 401 && !m_access.credentials.isEmpty() ? digestChallenge(reply.challenge) : std::nullopt;
+        const bool isAnswered = challenge && (challenges == 0 || (challenge->stale && challenges < mostChallenges));
+        if (!isAnswered)
+            return done(Answer(request, reply, ++m_answers));
+        m_challenge = challenge;
+        m_challengeUses = 0;
+        askOfKnownClock(url, request, challenges + 1, done);
+    });
+}
+
+void SoapClient::post(const QUrl &url, const Request &request, bool authenticated, const HttpExchange::Done &done)
+{
+    if (!url.isValid() || url.host().isEmpty())
+        return done(failed(TransportFailure::BadUrl, url));
+    if (url.scheme() != "http" && url.scheme() != "https")
+        return done(failed(TransportFailure::UnsupportedProtocol, url));
+
+    QNetworkRequest http = httpRequest(url, request);
     QString header;
-    if (authenticated && !m_credentials.isEmpty()) {
-        header = securityHeader(m_credentials, QDateTime::currentDateTimeUtc().addSecs(m_clockAhead.value_or(0)));
-        if (m_challenge)
-            http.setRawHeader("Authorization", authorizationFor(url));
+    if (authenticated && !m_access.credentials.isEmpty()) {
+        const qint64 ahead = m_clock && m_clock->isUsed ? m_clock->secondsAhead.value_or(0) : 0;
+        const Token token = freshToken(m_access.credentials, QDateTime::currentDateTimeUtc().addSecs(ahead));
+        header = securityHeader(m_access.credentials, token);
+        m_secretsSent = {token.digest, token.nonce.toBase64()};
+        if (m_challenge) {
+            const QByteArray authorization = authorizationFor(url);
+            http.setRawHeader("Authorization", authorization);
+            m_secretsSent.append(authorization);
+        }
     }
-    new HttpExchange(m_manager.post(http, message(request, header)), m_timeout, done, this);
+    new HttpExchange(
+        m_manager->post(http, message(request, header)), m_access.timeout, acceptedFingerprint(),
+        [=](const HttpReply &reply) {
+            if (m_fingerprint.isEmpty() && reply.failure != TransportFailure::NotTrusted)
+                m_fingerprint = reply.tls.fingerprint;
+            done(reply);
+        },
+        this);
+}
+
+QByteArray SoapClient::acceptedFingerprint() const
+{
+    if (!m_access.insecure)
+        return {};
+    return m_fingerprint.isEmpty() ? "any" : m_fingerprint;
 }
 
 QByteArray SoapClient::authorizationFor(const QUrl &url)
@@ -150,18 +151,7 @@ QByteArray SoapClient::authorizationFor(const QUrl &url)
     use.uri = url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
     use.clientNonce = QUuid::createUuid().toByteArray(QUuid::Id128);
     use.count = ++m_challengeUses;
-    return digestAuthorization(*m_challenge, m_credentials, use);
-}
-
-Answer SoapClient::answerTo(const Request &request, const HttpReply &reply)
-{
-    Answer answer;
-    answer.action = request.action;
-    answer.bytes = documentOf(reply);
-    answer.fault = vorn::OnvifFault(answer.bytes, request.action, ++m_answers);
-    answer.remark = remarkOn(reply, answer.fault);
-    answer.received = reply.failure == TransportFailure::None;
-    return answer;
+    return digestAuthorization(*m_challenge, m_access.credentials, use);
 }
 
 } // namespace client

@@ -4,7 +4,7 @@ namespace client {
 namespace {
 
 /// The texts by which the library knows the failures. It looks for the number of an HTTP status in a text that it does
-/// not know, so the last one must hold no number, such as that of a port.
+/// not know, so the text for the failures that it does not tell apart must hold no number, such as that of a port.
 const char *reasonOf(TransportFailure failure)
 {
     switch (failure) {
@@ -21,6 +21,9 @@ const char *reasonOf(TransportFailure failure)
     case TransportFailure::ReceiveFailure:
         return "Failure when receiving data from the peer";
     case TransportFailure::None:
+    case TransportFailure::NotConnected:
+    case TransportFailure::NoTls:
+    case TransportFailure::NotTrusted:
     case TransportFailure::Other:
         break;
     }
@@ -45,12 +48,34 @@ TransportFailure transportFailureOf(QNetworkReply::NetworkError error, bool repl
         return TransportFailure::HostNotResolved;
     case QNetworkReply::ProtocolUnknownError:
         return TransportFailure::UnsupportedProtocol;
+    case QNetworkReply::ConnectionRefusedError:
+    case QNetworkReply::TimeoutError:
+    case QNetworkReply::TemporaryNetworkFailureError:
+    case QNetworkReply::NetworkSessionFailedError:
+        return TransportFailure::NotConnected;
+    case QNetworkReply::SslHandshakeFailedError:
+        return TransportFailure::NoTls;
     case QNetworkReply::RemoteHostClosedError:
         return replyBegan ? TransportFailure::PartialReply : TransportFailure::EmptyReply;
     case QNetworkReply::ProtocolFailure:
         return TransportFailure::ReceiveFailure;
     default:
         return isHttpStatus(error) && replyBegan ? TransportFailure::None : TransportFailure::Other;
+    }
+}
+
+bool isFinal(TransportFailure failure)
+{
+    switch (failure) {
+    case TransportFailure::BadUrl:
+    case TransportFailure::HostNotResolved:
+    case TransportFailure::UnsupportedProtocol:
+    case TransportFailure::NotConnected:
+    case TransportFailure::NoTls:
+    case TransportFailure::NotTrusted:
+        return true;
+    default:
+        return false;
     }
 }
 

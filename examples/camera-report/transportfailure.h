@@ -5,12 +5,15 @@
 
 namespace client {
 
-/// How an exchange over HTTP can fail, in the classes that the library tells apart.
+/// How an exchange over HTTP can fail.
 enum class TransportFailure {
     None,
     BadUrl,
     HostNotResolved,
     UnsupportedProtocol,
+    NotConnected, ///< refused, no way there, or no connection in time
+    NoTls,        ///< the two ends could not agree on TLS
+    NotTrusted,   ///< the certificate does not prove who answers
     EmptyReply,
     PartialReply,
     ReceiveFailure,
@@ -19,6 +22,9 @@ enum class TransportFailure {
 
 /// The class of \a error. HTTP statuses are no failures of the transport. \a replyBegan tells whether anything came.
 TransportFailure transportFailureOf(QNetworkReply::NetworkError error, bool replyBegan);
+
+/// Whether after \a failure there is no use in asking the same port again.
+bool isFinal(TransportFailure failure);
 
 /// The document by which vorn::OnvifFault is told of \a failure, which must not be None.
 QByteArray bareFault(TransportFailure failure);

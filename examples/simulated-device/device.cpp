@@ -2,52 +2,53 @@
 
 #include "delivery.h"
 
-#include <vorn/util/xmlresponse.h>
-
 #include <QtCore/QFile>
+#include <QtNetwork/QSslServer>
 
 namespace simulator {
 namespace {
 
 constexpr qint64 longestRequest = qint64(1024) * 1024;
 
-/// The name of the first element in the Body of a request. Only letters and digits: it becomes the name of a file.
-QString actionOf(const QByteArray &message)
+std::unique_ptr<QTcpServer> serverFor(const std::optional<QSslConfiguration> &tls)
 {
-    vorn::XmlResponse request(message, "/Envelope/Body");
-    QString action;
-    for (const vorn::XmlResponseNode &element : request.get("").children) {
-        for (const QChar character : element.name) {
-            if (character.isLetterOrNumber())
-                action += character;
-        }
-        break;
-    }
-    return action;
+    if (!tls)
+        return std::make_unique<QTcpServer>();
+    auto server = std::make_unique<QSslServer>();
+    server->setSslConfiguration(*tls);
+    return server;
 }
 
 } // namespace
 
-Device::Device(const Options &options)
+Device::Device(const Options &options, const std::optional<QSslConfiguration> &tls)
     : m_options(options)
+    , m_isTls(tls.has_value())
+    , m_server(serverFor(tls))
     , m_guard(options)
 {
-    connect(this, &QTcpServer::newConnection, this, [this] {
-        while (QTcpSocket *socket = nextPendingConnection())
+    connect(m_server.get(), &QTcpServer::pendingConnectionAvailable, this, [this] {
+        while (QTcpSocket *socket = m_server->nextPendingConnection())
             serve(socket);
     });
 }
 
 QString Device::start(quint16 port)
 {
-    if (listen(m_options.listen, port))
+    if (m_server->listen(m_options.listen, port))
         return {};
-    return QString("No device can listen at %1:%2: %3.").arg(m_options.listen.toString()).arg(port).arg(errorString());
+    return QString("No device can listen at %1:%2: %3.")
+        .arg(m_options.listen.toString())
+        .arg(port)
+        .arg(m_server->errorString());
 }
 
-QByteArray Device::address() const
+QByteArray Device::origin() const
 {
-    return QString("%1:%2").arg(serverAddress().toString()).arg(serverPort()).toLatin1();
+    return QString("%1://%2:%3")
+        .arg(m_isTls ? "https" : "http", m_server->serverAddress().toString())
+        .arg(m_server->serverPort())
+        .toLatin1();
 }
 
 void Device::serve(QTcpSocket *socket)
@@ -56,6 +57,10 @@ void Device::serve(QTcpSocket *socket)
     connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
         if (socket->bytesAvailable() > longestRequest)
             return socket->abort();
+        const char first = socket->peek(1).at(0);
+        const bool isHttp = first >= 'A' && first <= 'Z'; // which the handshake of TLS, for example, is not
+        if (!isHttp)
+            return socket->disconnectFromHost();
         const auto request = httpRequestIn(socket->peek(longestRequest));
         if (!request)
             return;
@@ -66,17 +71,18 @@ void Device::serve(QTcpSocket *socket)
 
 void Device::answer(QTcpSocket *socket, const HttpRequest &request)
 {
-    const QString action = actionOf(request.body);
-    record(request, action);
-    const bool isOpen = action == "GetSystemDateAndTime"; // ONVIF wants it without authentication
-    if (!isOpen && !m_guard.allows(request, now())) {
-        const QByteArray challenge = m_guard.challenge();
+    const Asked asked = askedIn(request.body);
+    record(request, asked.action);
+    const bool isOpen = asked.action == "GetSystemDateAndTime"; // ONVIF wants it without authentication
+    const Guard::Verdict verdict = isOpen ? Guard::Verdict::Allowed : m_guard.judge(request, now());
+    if (verdict != Guard::Verdict::Allowed) {
+        const QByteArray challenge = m_guard.challenge(verdict);
         const Reply fault = notAuthorized();
         const int status = challenge.isEmpty() ? fault.status : 401;
         return deliver(socket, httpReply(status, "application/soap+xml", fault.body, challenge));
     }
-    const Reply reply = replyTo(action, m_options, address(), now());
-    deliver(socket, reply, troubleFor(m_options.troubles, action));
+    const Reply reply = replyTo(asked, m_options, origin(), now());
+    deliver(socket, reply, troubleFor(m_options.troubles, asked.action));
 }
 
 void Device::record(const HttpRequest &request, const QString &action)

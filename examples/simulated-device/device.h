@@ -4,22 +4,28 @@
 #include "options.h"
 #include "replies.h"
 
+#include <QtCore/QObject>
+#include <QtNetwork/QSslConfiguration>
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
+
+#include <memory>
+#include <optional>
 
 namespace simulator {
 
 /// One simulated device: a web server that speaks SOAP.
-class Device : public QTcpServer
+class Device : public QObject
 {
 public:
-    explicit Device(const Options &options);
+    /// With \a tls, over that alone.
+    Device(const Options &options, const std::optional<QSslConfiguration> &tls);
 
     /// Listens at \a port. Returns one sentence if that fails.
     QString start(quint16 port);
 
-    /// Where the device is reached: a host and a port.
-    QByteArray address() const;
+    /// Where the device is reached, such as "http://127.0.0.1:8080".
+    QByteArray origin() const;
 
 private:
     void serve(QTcpSocket *socket);
@@ -28,6 +34,8 @@ private:
     QDateTime now() const;
 
     Options m_options;
+    bool m_isTls;
+    std::unique_ptr<QTcpServer> m_server;
     Guard m_guard;
     int m_requests = 0;
 };

@@ -1,9 +1,12 @@
 #include "guard.h"
 
+#include "support/httpparameters.h"
+
 #include <vorn/util/xmlresponse.h>
 
 #include <QtCore/QCryptographicHash>
-#include <QtCore/QUuid>
+
+#include <cstdlib>
 
 namespace simulator {
 namespace {
@@ -16,53 +19,43 @@ QByteArray md5(const QByteArray &text)
     return QCryptographicHash::hash(text, QCryptographicHash::Md5).toHex();
 }
 
-/// The value of \a name in the value of the header line Authorization.
-QByteArray parameter(const QByteArray &authorization, const QByteArray &name)
-{
-    const QByteArray list = ',' + authorization.mid(authorization.indexOf(' ') + 1).replace(", ", ",");
-    const qsizetype start = list.indexOf(',' + name + '=');
-    if (start < 0)
-        return {};
-    const qsizetype valueStart = start + name.size() + 2;
-    const bool isQuoted = list.mid(valueStart, 1) == "\"";
-    const qsizetype end = list.indexOf(isQuoted ? '"' : ',', valueStart + 1);
-    return list.mid(valueStart, end < 0 ? -1 : end - valueStart).replace('"', "");
-}
-
 } // namespace
 
 Guard::Guard(const Options &options)
     : m_kind(options.authentication)
     , m_user(options.user.toUtf8())
     , m_password(options.password.toUtf8())
-    , m_nonce(QUuid::createUuid().toByteArray(QUuid::Id128))
+    , m_nonces(options.nonceUses)
 {
 }
 
-bool Guard::allows(const HttpRequest &request, const QDateTime &now)
+Guard::Verdict Guard::judge(const HttpRequest &request, const QDateTime &now)
 {
+    bool isAllowed = true;
     switch (m_kind) {
     case Authentication::None:
-        return true;
+        break;
     case Authentication::Token:
-        return allowsToken(request, now);
+        isAllowed = allowsToken(request, now);
+        break;
     case Authentication::Http:
-        return allowsDigest(request);
+        return judgeDigest(request);
     case Authentication::Basic:
-        return request.header("Authorization") == "Basic " + (m_user + ':' + m_password).toBase64();
+        isAllowed = request.header("Authorization") == "Basic " + (m_user + ':' + m_password).toBase64();
+        break;
     }
-    return false;
+    return isAllowed ? Verdict::Allowed : Verdict::Refused;
 }
 
-QByteArray Guard::challenge() const
+QByteArray Guard::challenge(Verdict verdict)
 {
     QByteArray basic = "WWW-Authenticate: Basic realm=\"" + realm + "\"\r\n";
     if (m_kind == Authentication::Basic)
         return basic;
     if (m_kind != Authentication::Http)
         return {};
-    return basic + "WWW-Authenticate: Digest realm=\"" + realm + R"(", qop="auth", algorithm=MD5, nonce=")" + m_nonce
-           + "\"\r\n";
+    return basic + "WWW-Authenticate: Digest realm=\"" + realm + R"(", qop="auth", algorithm=MD5, nonce=")"
+           + m_nonces.issue() + '"' + (verdict == Verdict::Stale ? ", stale=true" : "") + "\r\n";
 }
 
 bool Guard::allowsToken(const HttpRequest &request, const QDateTime &now)
@@ -72,27 +65,37 @@ bool Guard::allowsToken(const HttpRequest &request, const QDateTime &now)
     const QByteArray created = token.getText("/Created").toLatin1();
     const QDateTime time = QDateTime::fromString(QString::fromLatin1(created), Qt::ISODateWithMs);
     const QByteArray digest = QCryptographicHash::hash(nonce + created + m_password, QCryptographicHash::Sha1);
-    return token.getText("/Username").toUtf8() == m_user && token.getText("/Password").toLatin1() == digest.toBase64()
-           && time.isValid() && std::abs(time.secsTo(now)) <= toleratedSeconds && isFresh(nonce);
-}
-
-bool Guard::allowsDigest(const HttpRequest &request)
-{
-    const QByteArray value = request.header("Authorization");
-    const QByteArray count = parameter(value, "nc");
-    const QByteArray clientNonce = parameter(value, "cnonce");
-    const QByteArray expected = md5(md5(m_user + ':' + realm + ':' + m_password) + ':' + m_nonce + ':' + count + ':'
-                                    + clientNonce + ":auth:" + md5("POST:" + request.target));
-    return value.startsWith("Digest ") && parameter(value, "username") == m_user && parameter(value, "nonce") == m_nonce
-           && parameter(value, "response") == expected && isFresh(count);
-}
-
-bool Guard::isFresh(const QByteArray &proof)
-{
-    if (m_seen.contains(proof))
+    // A digest over less is one over the password alone, which is good for ever.
+    if (nonce.isEmpty() || !time.isValid() || std::abs(time.secsTo(now)) > toleratedSeconds
+        || token.getText("/Username").toUtf8() != m_user || token.getText("/Password").toLatin1() != digest.toBase64())
         return false;
-    m_seen.insert(proof);
-    return true;
+    const bool isFresh = !m_seenTokens.contains(nonce);
+    m_seenTokens.insert(nonce);
+    return isFresh;
+}
+
+Guard::Verdict Guard::judgeDigest(const HttpRequest &request)
+{
+    const QByteArray header = request.header("Authorization");
+    if (!header.toLower().startsWith("digest "))
+        return Verdict::Refused;
+    const auto values = example::httpParameters(QString::fromLatin1(header.mid(7)));
+    const QByteArray nonce = values["nonce"];
+    const QByteArray count = values["nc"];
+    const QByteArray expected = md5(md5(m_user + ':' + realm + ':' + m_password) + ':' + nonce + ':' + count + ':'
+                                    + values["cnonce"] + ":auth:" + md5("POST:" + values["uri"]));
+    if (example::httpQuoted(m_user) != '"' + values["username"] + '"' || values["uri"] != request.target
+        || values["response"] != expected)
+        return Verdict::Refused;
+    switch (m_nonces.use(nonce, count)) {
+    case Nonces::Verdict::Good:
+        return Verdict::Allowed;
+    case Nonces::Verdict::Stale:
+        return Verdict::Stale;
+    case Nonces::Verdict::Replayed:
+        break;
+    }
+    return Verdict::Refused;
 }
 
 } // namespace simulator

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "httprequest.h"
+#include "nonces.h"
 #include "options.h"
 
 #include <QtCore/QByteArray>
@@ -13,24 +14,29 @@ namespace simulator {
 class Guard
 {
 public:
+    enum class Verdict {
+        Allowed,
+        Refused,
+        Stale, ///< the proof is right, but made of a nonce that is no longer good
+    };
+
     explicit Guard(const Options &options);
 
     /// Whether \a request may pass, at \a now by the clock of the device. A proof passes only once.
-    bool allows(const HttpRequest &request, const QDateTime &now);
+    Verdict judge(const HttpRequest &request, const QDateTime &now);
 
-    /// The header lines that ask for the proof; empty if a SOAP fault does.
-    QByteArray challenge() const;
+    /// The header lines that ask for the proof, after \a verdict; empty if a SOAP fault does.
+    QByteArray challenge(Verdict verdict);
 
 private:
     bool allowsToken(const HttpRequest &request, const QDateTime &now);
-    bool allowsDigest(const HttpRequest &request);
-    bool isFresh(const QByteArray &proof);
+    Verdict judgeDigest(const HttpRequest &request);
 
     Authentication m_kind;
     QByteArray m_user;
     QByteArray m_password;
-    QByteArray m_nonce; ///< of the challenge
-    QSet<QByteArray> m_seen;
+    Nonces m_nonces;               ///< of challenges
+    QSet<QByteArray> m_seenTokens; ///< their nonces
 };
 
 } // namespace simulator

@@ -1,5 +1,6 @@
 // simulated-device: ONVIF devices that answer out of a folder of replies, for trying out clients.
 
+#include "certificate.h"
 #include "device.h"
 #include "options.h"
 #include "proberesponder.h"
@@ -33,31 +34,49 @@ int afterOutput(int exitCode)
 
 using Devices = std::vector<std::unique_ptr<simulator::Device>>;
 
+/// What devices need for TLS, if the user wants it. Puts one sentence into \a complaint if it cannot be.
+std::optional<QSslConfiguration> tlsFor(const simulator::Options &options, QString &complaint)
+{
+    if (!options.tls)
+        return std::nullopt;
+    const simulator::OwnCertificate own = simulator::makeCertificate(options.listen);
+    complaint = own.complaint;
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    tls.setLocalCertificate(own.certificate);
+    tls.setPrivateKey(own.key);
+    return tls;
+}
+
 /// Adds as many \a devices as are wanted, all listening. Returns one sentence if that fails.
 QString startDevices(const simulator::Options &options, Devices &devices)
 {
+    QString complaint;
+    const std::optional<QSslConfiguration> tls = tlsFor(options, complaint);
+    if (!complaint.isEmpty())
+        return complaint;
     for (int index = 0; index < options.devices; ++index) {
-        devices.push_back(std::make_unique<simulator::Device>(options));
-        QString complaint = devices.back()->start(static_cast<quint16>(options.port == 0 ? 0 : options.port + index));
+        devices.push_back(std::make_unique<simulator::Device>(options, tls));
+        complaint = devices.back()->start(static_cast<quint16>(options.port == 0 ? 0 : options.port + index));
         if (!complaint.isEmpty())
             return complaint;
     }
     return {};
 }
 
-QList<QByteArray> addressesOf(const Devices &devices)
+QList<QByteArray> originsOf(const Devices &devices)
 {
-    QList<QByteArray> addresses;
+    QList<QByteArray> origins;
     for (const auto &device : devices)
-        addresses.append(device->address());
-    return addresses;
+        origins.append(device->origin());
+    return origins;
 }
 
-void announce(const QList<QByteArray> &addresses, const simulator::ProbeResponder &responder)
+/// Names each of \a origins as a client takes it: one of plain HTTP by its host and port alone.
+void announce(const QList<QByteArray> &origins, const simulator::ProbeResponder &responder)
 {
     QJsonArray devices;
-    for (const QByteArray &address : addresses)
-        devices.append(QString::fromLatin1(address));
+    for (const QByteArray &origin : origins)
+        devices.append(QString::fromLatin1(origin.startsWith("http://") ? origin.mid(7) : origin));
     const QJsonObject line{{"devices", devices},
                            {"probe", QString::fromLatin1(responder.address())},
                            {"multicast", responder.takesMulticast()}};
@@ -73,13 +92,13 @@ int run(const simulator::Options &options)
     QString complaint = startDevices(options, devices);
     if (!complaint.isEmpty())
         return fail(complaint);
-    const QList<QByteArray> addresses = addressesOf(devices);
-    simulator::ProbeResponder responder(options, addresses);
+    const QList<QByteArray> origins = originsOf(devices);
+    simulator::ProbeResponder responder(options, origins);
     complaint = responder.start();
     if (!complaint.isEmpty())
         return fail(complaint);
 
-    announce(addresses, responder);
+    announce(origins, responder);
     const int exitCode = afterOutput(WasStopped);
     return exitCode == WasStopped ? QCoreApplication::exec() : exitCode;
 }

@@ -9,9 +9,12 @@ namespace {
 const char *const description =
     R"(Simulates ONVIF devices that answer out of a folder: ACTION.xml is the reply to
 the request ACTION, and ProbeMatches.xml that to a probe. The addresses in
-XAddr and XAddrs become its own. A request without a file is answered with the
-fault ActionNotSupported; but GetSystemDateAndTime, SetNetworkInterfaces and
-probes are answered in any case. Nothing that a request sets is kept.
+XAddr and XAddrs become its own, and the time that of this machine. Requests for
+what a profile token stands for may have a file of their own, such as
+GetStreamUri.TOKEN.UDP.xml. A request without a file is answered with the fault
+ActionNotSupported; but GetSystemDateAndTime, GetStreamUri, GetSnapshotUri,
+SetNetworkInterfaces and probes are answered in any case. Nothing that a request
+sets is kept, and there is no video.
 
 When it is ready, it prints one line of JSON: the addresses of the devices,
 where it takes probes, and whether it takes those by multicast, too. SIGINT or
@@ -30,19 +33,22 @@ struct Known
     QCommandLineOption auth{"auth", "Wants authentication: token, http or basic.", "KIND"};
     QCommandLineOption user{"user", "The user that is let in. Without it: operator.", "NAME", "operator"};
     QCommandLineOption password{"password", "The password. Without it: simulated.", "TEXT", "simulated"};
+    QCommandLineOption nonceUses{"nonce-uses", "After how many requests a nonce of Digest ends. Without it: 1000.",
+                                 "NUMBER", "1000"};
     QCommandLineOption clockAhead{"clock-ahead", "By how much the clock is ahead.", "SECONDS", "0"};
     QCommandLineOption listen{"listen", "The IPv4 address to listen at. Without it: 127.0.0.1.", "ADDRESS",
                               "127.0.0.1"};
     QCommandLineOption port{"port", "The port of the first device, and so on. Without it: any.", "NUMBER", "0"};
     QCommandLineOption probePort{"probe-port", "A port for probes that come without multicast.", "NUMBER", "0"};
     QCommandLineOption devices{"devices", "How many devices, from 1 to 1000.", "NUMBER", "1"};
+    QCommandLineOption tls{"tls", "Speaks HTTP over TLS only, with a certificate that it makes for itself."};
     QCommandLineOption keepAddresses{"keep-addresses", "Leaves the addresses in replies as they are."};
     QCommandLineOption record{"record", "Keeps each request in a file in FOLDER.", "FOLDER"};
 
     QList<QCommandLineOption> inOrder() const
     {
-        return {help,   answer, trouble,   auth,    user,          password, clockAhead,
-                listen, port,   probePort, devices, keepAddresses, record};
+        return {help,   answer, trouble,   auth,    user, password,      nonceUses, clockAhead,
+                listen, port,   probePort, devices, tls,  keepAddresses, record};
     }
 };
 
@@ -81,20 +87,6 @@ QString readReplies(const QCommandLineParser &parser, const Known &known, Option
     return {};
 }
 
-QString readAuthentication(const QCommandLineParser &parser, const Known &known, Options &options)
-{
-    const QHash<QString, Authentication> kinds = {{"", Authentication::None},
-                                                  {"token", Authentication::Token},
-                                                  {"http", Authentication::Http},
-                                                  {"basic", Authentication::Basic}};
-    if (!kinds.contains(parser.value(known.auth)))
-        return "--auth wants token, http or basic.";
-    options.authentication = kinds.value(parser.value(known.auth));
-    options.user = parser.value(known.user);
-    options.password = parser.value(known.password);
-    return {};
-}
-
 /// Reads the number of \a option into \a value; false if it is none from \a smallest to \a largest.
 template <typename Number>
 bool readNumber(const QCommandLineParser &parser, const QCommandLineOption &option, qint64 smallest, qint64 largest,
@@ -106,9 +98,26 @@ bool readNumber(const QCommandLineParser &parser, const QCommandLineOption &opti
     return isNumber && number >= smallest && number <= largest;
 }
 
+QString readAuthentication(const QCommandLineParser &parser, const Known &known, Options &options)
+{
+    const QHash<QString, Authentication> kinds = {{"", Authentication::None},
+                                                  {"token", Authentication::Token},
+                                                  {"http", Authentication::Http},
+                                                  {"basic", Authentication::Basic}};
+    if (!kinds.contains(parser.value(known.auth)))
+        return "--auth wants token, http or basic.";
+    options.authentication = kinds.value(parser.value(known.auth));
+    options.user = parser.value(known.user);
+    options.password = parser.value(known.password);
+    if (!readNumber(parser, known.nonceUses, 1, 1000000, options.nonceUses))
+        return "--nonce-uses wants a number from 1 to 1000000.";
+    return {};
+}
+
 QString readPlace(const QCommandLineParser &parser, const Known &known, Options &options)
 {
     options.listen = QHostAddress(parser.value(known.listen));
+    options.tls = parser.isSet(known.tls);
     options.keepAddresses = parser.isSet(known.keepAddresses);
     options.recordFolder = parser.value(known.record);
     if (options.listen.protocol() != QHostAddress::IPv4Protocol || options.listen == QHostAddress::AnyIPv4)

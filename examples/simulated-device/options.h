@@ -29,11 +29,13 @@ struct Options
     Authentication authentication = Authentication::None;
     QString user;
     QString password;
+    int nonceUses = 0;     ///< how many requests a nonce of Digest is good for
     qint64 clockAhead = 0; ///< seconds by which the clock of the device is ahead of this machine's
     QHostAddress listen;
     quint16 port = 0;      ///< of the first device; 0: the system chooses for each
     quint16 probePort = 0; ///< for probes that are sent here alone; 0: the system chooses
     int devices = 1;
+    bool tls = false;           ///< whether they speak HTTP over TLS
     bool keepAddresses = false; ///< whether the addresses in replies stay as they are
     QString recordFolder;       ///< where each request is kept; empty: nowhere
 };

@@ -17,6 +17,11 @@ constexpr quint16 discoveryPort = 3702;
 /// Not all answers are to come at once: WS-Discovery has devices wait for a random time.
 constexpr std::chrono::milliseconds pauseBetweenAnswers(1);
 
+/// So many probes are read in one turn of the event loop, and so many answers are kept for later: a flood must not keep
+/// anything else from its turn, or take all memory.
+constexpr int probesAtOnce = 32;
+constexpr qsizetype mostAnswers = 100000;
+
 QHostAddress discoveryGroup()
 {
     return QHostAddress("239.255.255.250");
@@ -35,9 +40,9 @@ QNetworkInterface interfaceOf(const QHostAddress &address)
 
 } // namespace
 
-ProbeResponder::ProbeResponder(const Options &options, const QList<QByteArray> &deviceAddresses)
+ProbeResponder::ProbeResponder(const Options &options, const QList<QByteArray> &origins)
     : m_options(options)
-    , m_deviceAddresses(deviceAddresses)
+    , m_origins(origins)
 {
     for (QUdpSocket *socket : {&m_socket, &m_groupSocket})
         connect(socket, &QUdpSocket::readyRead, this, [this, socket] { receive(*socket); });
@@ -70,7 +75,7 @@ bool ProbeResponder::joinGroup()
 
 void ProbeResponder::receive(QUdpSocket &socket)
 {
-    while (socket.hasPendingDatagrams()) {
+    for (int count = 0; count < probesAtOnce && socket.hasPendingDatagrams(); ++count) {
         const QNetworkDatagram datagram = socket.receiveDatagram();
         // Another program may have joined the group at another interface; its probes come here, too.
         if (!m_options.listen.isLoopback() || datagram.senderAddress().isLoopback())
@@ -83,9 +88,11 @@ void ProbeResponder::prepareAnswers(const QByteArray &probe, const QHostAddress 
     vorn::XmlResponse message(probe, "/Envelope");
     if (message.getText("/Body/Probe").isNull())
         return;
-    const QByteArray messageId = message.getText("/Header/MessageID").toHtmlEscaped().toLatin1();
-    for (const QByteArray &deviceAddress : m_deviceAddresses)
-        m_answers.append({deviceAddress, messageId, sender, port});
+    const QString messageId = message.getText("/Header/MessageID");
+    for (const QByteArray &origin : m_origins) {
+        if (m_answers.size() < mostAnswers)
+            m_answers.append({origin, messageId, sender, port});
+    }
     m_pause.start(pauseBetweenAnswers);
 }
 
@@ -94,7 +101,7 @@ void ProbeResponder::sendNextAnswer()
     if (m_answers.isEmpty())
         return m_pause.stop();
     const Answer answer = m_answers.takeFirst();
-    m_socket.writeDatagram(probeMatch(m_options, answer.deviceAddress, answer.messageId), answer.receiver, answer.port);
+    m_socket.writeDatagram(probeMatch(m_options, answer.origin, answer.messageId), answer.receiver, answer.port);
 }
 
 } // namespace simulator

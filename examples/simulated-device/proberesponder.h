@@ -15,8 +15,8 @@ namespace simulator {
 class ProbeResponder : public QObject
 {
 public:
-    /// \a deviceAddresses are hosts with ports.
-    ProbeResponder(const Options &options, const QList<QByteArray> &deviceAddresses);
+    /// \a origins are those of the devices.
+    ProbeResponder(const Options &options, const QList<QByteArray> &origins);
 
     /// Listens for probes. Returns one sentence if that fails; but multicast may fail alone.
     QString start();
@@ -30,8 +30,8 @@ private:
     /// What one device has to answer, and to whom.
     struct Answer
     {
-        QByteArray deviceAddress;
-        QByteArray messageId;
+        QByteArray origin;
+        QString messageId;
         QHostAddress receiver;
         quint16 port = 0;
     };
@@ -42,7 +42,7 @@ private:
     void sendNextAnswer();
 
     Options m_options;
-    QList<QByteArray> m_deviceAddresses;
+    QList<QByteArray> m_origins;
     QUdpSocket m_socket;
     QUdpSocket m_groupSocket;
     bool m_takesMulticast = false;

@@ -1,7 +1,10 @@
 #include "replies.h"
 
+#include "rewriting.h"
+#include "support/replyname.h"
+
 #include <QtCore/QFile>
-#include <QtCore/QRegularExpression>
+#include <QtCore/QUrl>
 #include <QtCore/QUuid>
 
 namespace simulator {
@@ -10,8 +13,8 @@ namespace {
 QByteArray inEnvelope(const QByteArray &body)
 {
     return R"(<s:Envelope xmlns:s="http://www.w3.org/2003/05/soap-envelope")"
-           R"( xmlns:tds="http://www.onvif.org/ver10/device/wsdl" xmlns:tt="http://www.onvif.org/ver10/schema")"
-           R"( xmlns:ter="http://www.onvif.org/ver10/error"><s:Body>)"
+           R"( xmlns:tds="http://www.onvif.org/ver10/device/wsdl" xmlns:trt="http://www.onvif.org/ver10/media/wsdl")"
+           R"( xmlns:tt="http://www.onvif.org/ver10/schema" xmlns:ter="http://www.onvif.org/ver10/error"><s:Body>)"
            + body + "</s:Body></s:Envelope>";
 }
 
@@ -22,93 +25,99 @@ Reply fault(int status, const QByteArray &code, const QByteArray &subcode, const
                                + "</s:Text></s:Reason></s:Fault>")};
 }
 
-QByteArray element(const char *name, int value)
-{
-    return QByteArray("<tt:") + name + '>' + QByteArray::number(value) + "</tt:" + name + '>';
-}
-
 QByteArray dateAndTime(const QDateTime &now)
 {
-    const QDate date = now.date();
-    const QTime time = now.time();
     return inEnvelope("<tds:GetSystemDateAndTimeResponse><tds:SystemDateAndTime>"
                       "<tt:DateTimeType>Manual</tt:DateTimeType><tt:DaylightSavings>false</tt:DaylightSavings>"
-                      "<tt:UTCDateTime><tt:Time>"
-                      + element("Hour", time.hour()) + element("Minute", time.minute())
-                      + element("Second", time.second()) + "</tt:Time><tt:Date>" + element("Year", date.year())
-                      + element("Month", date.month()) + element("Day", date.day())
-                      + "</tt:Date></tt:UTCDateTime></tds:SystemDateAndTime></tds:GetSystemDateAndTimeResponse>");
+                      "<tt:TimeZone><tt:TZ>UTC0</tt:TZ></tt:TimeZone><tt:UTCDateTime>"
+                      + timeElements(now, "tt:")
+                      + "</tt:UTCDateTime></tds:SystemDateAndTime></tds:GetSystemDateAndTimeResponse>");
 }
 
-/// Makes each HTTP address in the elements XAddr and XAddrs one of the device at \a address, unless the user objects.
-QByteArray withOwnAddresses(const QByteArray &reply, const Options &options, const QByteArray &address)
+/// There is nothing at the address that is named.
+QByteArray mediaUri(const Asked &asked, const QByteArray &origin)
 {
-    if (options.keepAddresses)
-        return reply;
-    static const QRegularExpression xAddrs("(<(?:[\\w.-]+:)?XAddrs?>)([^<]*)");
-    static const QRegularExpression host("(\\bhttp://)[^/\\s]*");
-    // Latin-1 has a character for each byte, so that the bytes stay what they are whatever they mean.
-    const QString text = QString::fromLatin1(reply);
-    QString result;
-    qsizetype end = 0;
-    for (const QRegularExpressionMatch &match : xAddrs.globalMatch(text)) {
-        result += text.mid(end, match.capturedStart(2) - end);
-        result += match.captured(2).replace(host, "\\1" + QString::fromLatin1(address));
-        end = match.capturedEnd();
-    }
-    return (result + text.mid(end)).toLatin1();
-}
-
-/// Makes \a value the text of each element \a name in \a reply.
-QByteArray withText(const QByteArray &reply, const char *name, const QByteArray &value)
-{
-    const QRegularExpression pattern(QString("(<(?:[\\w.-]+:)?%1>)[^<]*").arg(name));
-    return QString::fromLatin1(reply).replace(pattern, "\\1" + QString::fromLatin1(value)).toLatin1();
+    const QString token = QString::fromLatin1(QUrl::toPercentEncoding(asked.profileToken));
+    const QUrl device(QString::fromLatin1(origin));
+    const QString uri = asked.action == "GetStreamUri"
+                            ? QString("rtsp://%1:554/%2?transport=%3").arg(device.host(), token, asked.protocol)
+                            : QString("%1/snapshot/%2").arg(device.toString(), token);
+    const QByteArray element = "trt:" + asked.action.toLatin1() + "Response>";
+    return inEnvelope('<' + element + "<trt:MediaUri><tt:Uri>" + escaped(uri)
+                      + "</tt:Uri><tt:InvalidAfterConnect>false</tt:InvalidAfterConnect>"
+                        "<tt:InvalidAfterReboot>false</tt:InvalidAfterReboot><tt:Timeout>PT0S</tt:Timeout>"
+                        "</trt:MediaUri></"
+                      + element);
 }
 
 QByteArray contentsOf(const QString &fileName)
 {
     QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return !fileName.isEmpty() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// What the user has laid down for \a action; empty if nothing.
-QByteArray givenReply(const QString &action, const Options &options)
+/// What the user has laid down in the folder for \a asked; empty if nothing.
+QByteArray replyInFolder(const Asked &asked, const Options &options)
 {
-    return contentsOf(options.answers.value(action, options.folder.filePath(action + ".xml")));
+    const QByteArray special =
+        asked.variant().isEmpty()
+            ? QByteArray()
+            : contentsOf(options.folder.filePath(example::replyFileName(asked.action, asked.variant())));
+    return special.isEmpty() ? contentsOf(options.folder.filePath(example::replyFileName(asked.action))) : special;
+}
+
+/// The same for what the user has named on the command line.
+QByteArray namedReply(const Asked &asked, const Options &options)
+{
+    const QString action = options.answers.value(asked.action);
+    return contentsOf(options.answers.value(asked.action + '.' + asked.variant(), action));
+}
+
+QByteArray withOwnAddresses(const QByteArray &reply, const Options &options, const QByteArray &origin)
+{
+    return options.keepAddresses ? reply : withAddressesAt(reply, origin);
 }
 
 } // namespace
 
-Reply replyTo(const QString &action, const Options &options, const QByteArray &address, const QDateTime &now)
+Reply replyTo(const Asked &asked, const Options &options, const QByteArray &origin, const QDateTime &now)
 {
-    const QByteArray given = givenReply(action, options);
+    const QByteArray named = namedReply(asked, options);
+    if (!named.isEmpty())
+        return {200, withOwnAddresses(named, options, origin)};
+    const QByteArray given = replyInFolder(asked, options);
+    if (asked.action == "GetSystemDateAndTime")
+        return {200, given.isEmpty() ? dateAndTime(now) : withTime(given, now)};
     if (!given.isEmpty())
-        return {200, withOwnAddresses(given, options, address)};
-    if (action == "GetSystemDateAndTime")
-        return {200, dateAndTime(now)};
-    if (action == "SetNetworkInterfaces")
+        return {200, withOwnAddresses(given, options, origin)};
+    if (asked.action == "GetStreamUri" || asked.action == "GetSnapshotUri")
+        return {200, mediaUri(asked, origin)};
+    if (asked.action == "SetNetworkInterfaces")
         return {200, inEnvelope("<tds:SetNetworkInterfacesResponse><tds:RebootNeeded>false</tds:RebootNeeded>"
                                 "</tds:SetNetworkInterfacesResponse>")};
     return actionNotSupported();
 }
 
-QByteArray probeMatch(const Options &options, const QByteArray &address, const QByteArray &messageId)
+QByteArray probeMatch(const Options &options, const QByteArray &origin, const QString &messageId)
 {
-    QByteArray match = givenReply("ProbeMatches", options);
+    const Asked asked{"ProbeMatches", {}, {}, false};
+    QByteArray match = namedReply(asked, options);
+    if (match.isEmpty())
+        match = replyInFolder(asked, options);
     if (match.isEmpty()) {
         match = inEnvelope("<d:ProbeMatches xmlns:d=\"http://schemas.xmlsoap.org/ws/2005/04/discovery\""
                            " xmlns:a=\"http://schemas.xmlsoap.org/ws/2004/08/addressing\"><d:ProbeMatch>"
                            "<a:EndpointReference><a:Address></a:Address></a:EndpointReference>"
-                           "<d:Scopes>onvif://www.onvif.org/type/video_encoder"
+                           "<d:Types xmlns:dn=\"http://www.onvif.org/ver10/network/wsdl\">dn:NetworkVideoTransmitter"
+                           "</d:Types><d:Scopes>onvif://www.onvif.org/type/video_encoder"
                            " onvif://www.onvif.org/name/Simulated</d:Scopes>"
                            "<d:XAddrs>http://host/onvif/device_service</d:XAddrs>"
                            "</d:ProbeMatch></d:ProbeMatches>");
     }
     // Each device has an identity of its own, which is the same for each probe.
-    const QUuid identity = QUuid::createUuidV5(QUuid(), address);
-    match = withText(match, "Address", "urn:uuid:" + identity.toByteArray(QUuid::WithoutBraces));
-    return withOwnAddresses(withText(match, "RelatesTo", messageId), options, address);
+    const QUuid identity = QUuid::createUuidV5(QUuid(), origin.mid(origin.indexOf("//") + 2));
+    match = withText(match, "Address", "urn:uuid:" + identity.toString(QUuid::WithoutBraces));
+    return withOwnAddresses(withText(match, "RelatesTo", messageId), options, origin);
 }
 
 Reply notAuthorized()

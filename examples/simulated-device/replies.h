@@ -1,5 +1,6 @@
 #pragma once
 
+#include "asked.h"
 #include "options.h"
 
 #include <QtCore/QByteArray>
@@ -15,11 +16,12 @@ struct Reply
     QByteArray body;
 };
 
-/// The reply to \a action of a device that is reached at \a address, a host with a port, at \a now by its clock.
-Reply replyTo(const QString &action, const Options &options, const QByteArray &address, const QDateTime &now);
+/// The reply to what is \a asked of a device that is reached at \a origin, such as "http://127.0.0.1:8080", at \a now
+/// by its clock.
+Reply replyTo(const Asked &asked, const Options &options, const QByteArray &origin, const QDateTime &now);
 
 /// The answer to a probe with the identity \a messageId.
-QByteArray probeMatch(const Options &options, const QByteArray &address, const QByteArray &messageId);
+QByteArray probeMatch(const Options &options, const QByteArray &origin, const QString &messageId);
 
 /// The fault of a request that lacks a valid proof of who sends it.
 Reply notAuthorized();

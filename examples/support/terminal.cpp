@@ -1,5 +1,6 @@
 #include "terminal.h"
 
+#include <QtCore/QJsonDocument>
 #include <QtCore/QList>
 
 #include <cstdio>
@@ -31,6 +32,22 @@ QString printable(const QString &text)
             result += QString("\\u%1").arg(static_cast<uint>(character), 4, 16, QLatin1Char('0'));
     }
     return result;
+}
+
+QString jsonLine(const QJsonObject &object)
+{
+    QString result;
+    // What is not harmless stands inside of texts alone. JSON writes it in units of UTF-16.
+    for (const char32_t character : QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)).toUcs4()) {
+        const QString text = QString::fromUcs4(&character, 1);
+        if (isHarmless(character)) {
+            result += text;
+            continue;
+        }
+        for (const QChar unit : text)
+            result += QString("\\u%1").arg(static_cast<uint>(unit.unicode()), 4, 16, QLatin1Char('0'));
+    }
+    return result + '\n';
 }
 
 void print(const QString &text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QJsonObject>
 #include <QtCore/QString>
 
 namespace example {
@@ -8,13 +9,16 @@ namespace example {
 /// device says is shown no other way.
 QString printable(const QString &text);
 
+/// \a object on one line that ends with its line end, with the same written as escape sequences of JSON.
+QString jsonLine(const QJsonObject &object);
+
 /// Writes \a text to standard output. Whether all went out is asked once, by isOutputWritten().
 void print(const QString &text);
 
 /// Writes \a line to standard error.
 void note(const QString &line);
 
-/// Whether everything that was printed has gone out.
+/// Whether everything that was printed so far has gone out.
 bool isOutputWritten();
 
 } // namespace example

@@ -23,26 +23,29 @@ ChildReader query(const char *name, Field &target)
             }};
 }
 
-/// Reads the first child of each name below the element at the path \a parent. A field whose element is missing stays
-/// as it is, which is as it was made.
-template <typename Response>
-void readQueries(Response &response, const QString &parent, std::initializer_list<ChildReader> queries)
+/// Reads the first child of each name below \a element, which elementAt() gave, and so on in queriesBelow(). A field
+/// whose element is missing stays as it is, which is as it was made.
+inline void readQueries(const RecordElement &element, std::initializer_list<ChildReader> queries)
 {
-    if constexpr (offersViews<Response>) {
-        readFirstChildren(elementAt(response, parent), queries);
+    if constexpr (offersViews<XmlResponse>) {
+        readFirstChildren(element, queries);
     } else {
-        QString path;
-        for (const ChildReader &query : queries) {
-            path = parent + QLatin1Char('/') + query.name;
-            query.read(elementAt(response, path), query.target);
-        }
+        for (const ChildReader &query : queries)
+            query.read(element.at(QLatin1Char('/') + query.name), query.target);
     }
 }
 
-/// The text of the element at \a path; nothing if there is no such element.
-inline std::optional<QString> foundText(XmlResponse &response, const QString &path)
+/// The same below the first child called \a name.
+inline ChildReader queriesBelow(const char *name, std::initializer_list<ChildReader> &&queries)
 {
-    const RecordElement element = elementAt(response, path);
+    return {QLatin1String(name), &queries, [](const RecordElement &child, void *group) {
+                readQueries(child, *static_cast<std::initializer_list<ChildReader> *>(group));
+            }};
+}
+
+/// The text of \a element, which elementAt() gave; nothing if it is missing.
+inline std::optional<QString> foundText(const RecordElement &element)
+{
     QString text = element.text();
     if (text.isEmpty() && element.isNull()) // an element that has text is there
         return std::nullopt;

@@ -93,6 +93,9 @@ public:
     /// Null if there is none.
     QString attribute(const QString &name) const;
 
+    /// The element at \a path below one that elementAt() gave.
+    RecordElement at(const QString &path) const { return m_view.at(path); }
+
     /// Calls \a visit with the local name of each child, of a type that can be compared with a QLatin1String, and the
     /// child, in document order.
     template <typename Visitor>
@@ -128,7 +131,7 @@ private:
     View m_view;
 };
 
-/// The element that \a response holds at \a path. Its children can be read where views are offered.
+/// The element that \a response holds at \a path.
 template <typename Response>
 RecordElement elementAt(Response &response, const QString &path)
 {

@@ -4,6 +4,7 @@
 
 #include <vorn/onvif/discovery.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace vorn {
@@ -36,8 +37,7 @@ QStringView withoutLeadingZeros(QStringView number)
 
 void readAddresses(OnvifCamera &camera, QStringView addressUrls)
 {
-    const QList<QStringView> urls = addressUrls.split(u' ');
-    for (const QStringView url : urls) {
+    for (const QStringView url : addressUrls.tokenize(u' ')) {
         if (part(url, schemePart).startsWith("https"_L1))
             continue;
         QString address = part(url, hostPart).toString();
@@ -54,17 +54,27 @@ void readAddresses(OnvifCamera &camera, QStringView addressUrls)
     }
 }
 
-/// What a type scope says of a device; null if it is nothing that counts.
-QString kindOf(QStringView typeScope)
+/// Whether \a text is \a word once it is in lower case.
+bool isInAnyCase(QStringView text, QLatin1String word)
 {
-    const QString type = typeScope.toString().toLower();
-    if (type == "video_encoder"_L1 || type == "network_video_transmitter"_L1)
+    if (text.size() != word.size()) // lower case makes a word of ASCII from no text of another size
+        return false;
+    const auto isAscii = [](QChar character) { return character.unicode() < 0x80; };
+    if (!std::all_of(text.begin(), text.end(), isAscii)) // comparing has other rules there than lower case has
+        return text.toString().toLower() == word;
+    return text.compare(word, Qt::CaseInsensitive) == 0;
+}
+
+/// What a type scope says of a device; null if it is nothing that counts.
+QString kindOf(QStringView type)
+{
+    if (isInAnyCase(type, "video_encoder"_L1) || isInAnyCase(type, "network_video_transmitter"_L1))
         return u"Video"_s;
-    if (type == "audio_encoder"_L1)
+    if (isInAnyCase(type, "audio_encoder"_L1))
         return u"Audio"_s;
-    if (type == "ptz"_L1)
+    if (isInAnyCase(type, "ptz"_L1))
         return u"PTZ"_s;
-    if (type == "video_analytic"_L1)
+    if (isInAnyCase(type, "video_analytic"_L1))
         return u"Analytics"_s;
     return {};
 }
@@ -80,18 +90,20 @@ public:
 
     void read(QStringView uri)
     {
-        const QString category = part(uri, categoryPart).toString().toLower();
-        const QStringView value = part(uri, valuePart);
-        if (category == m_typeKey)
+        const QStringView parts = partsFrom(uri, categoryPart);
+        const QStringView category = part(parts, 0);
+        const QStringView values = partsFrom(parts, valuePart - categoryPart);
+        const QStringView value = part(values, 0);
+        if (isInAnyCase(category, "type"_L1))
             readType(value);
-        else if (category == m_nameKey)
+        else if (isInAnyCase(category, "name"_L1))
             readName(value);
-        else if (category == "location"_L1)
-            insert(category, value);
-        else if (category == "profile"_L1 && uri.endsWith("Streaming"_L1))
+        else if (isInAnyCase(category, "location"_L1))
+            insert(u"location"_s, value);
+        else if (isInAnyCase(category, "profile"_L1) && uri.endsWith("Streaming"_L1))
             m_scopes.insert(m_typeKey, u"ProfileS"_s);
-        else if (category == "hardware"_L1)
-            readHardware(category, partsFrom(uri, valuePart));
+        else if (isInAnyCase(category, "hardware"_L1))
+            readHardware(values);
     }
 
 private:
@@ -117,12 +129,12 @@ private:
     }
 
     /// The hardware stands for the name until there is one.
-    void readHardware(const QString &category, QStringView hardware)
+    void readHardware(QStringView hardware)
     {
         const QString name = m_scopes.value(m_nameKey);
         if (name.isEmpty() || name == namelessCamera)
             m_scopes.replace(m_nameKey, hardware.toString());
-        insert(category, hardware);
+        insert(u"hardware"_s, hardware);
     }
 
     const QString m_typeKey = u"type"_s;
@@ -138,15 +150,14 @@ OnvifCamera::OnvifCamera() = default;
 OnvifCamera::OnvifCamera(const QByteArray &bytes)
     : OnvifResponseStructure(bytes, u"/Envelope/Body/ProbeMatches/ProbeMatch"_s)
 {
-    const auto addressUrls = foundText(response, u"/XAddrs"_s);
-    const auto scopeUris = foundText(response, u"/Scopes"_s);
+    const auto addressUrls = foundText(elementAt(response, u"/XAddrs"_s));
+    const auto scopeUris = foundText(elementAt(response, u"/Scopes"_s));
     valid = addressUrls && scopeUris;
     if (!valid)
         return;
     readAddresses(*this, *addressUrls);
     ScopeReader scopeReader(scopes);
-    const QList<QStringView> uris = QStringView(*scopeUris).split(u' ');
-    for (const QStringView uri : uris)
+    for (const QStringView uri : QStringView(*scopeUris).tokenize(u' '))
         scopeReader.read(uri);
     addresses.sort();
 }
@@ -179,8 +190,7 @@ void OnvifCamera::removeIPv4AddressLeadingZeros(QString &address) const
 {
     QString result;
     int count = 0;
-    const QList<QStringView> numbers = QStringView(address).split(u'.');
-    for (const QStringView number : numbers) {
+    for (const QStringView number : QStringView(address).tokenize(u'.')) {
         result += number == "0"_L1 ? number : withoutLeadingZeros(number);
         if (count < 3 && !result.contains(u':'))
             result += u'.';

@@ -11,14 +11,13 @@ OnvifDeviceInformation::OnvifDeviceInformation() = default;
 OnvifDeviceInformation::OnvifDeviceInformation(const QByteArray &bytes)
     : OnvifResponseStructure(bytes, u"/Envelope/Body/GetDeviceInformationResponse"_s)
 {
-    readQueries(response, {},
-                {
-                    query("Manufacturer", manufacturer),
-                    query("Model", model),
-                    query("FirmwareVersion", firmwareVersion),
-                    query("SerialNumber", serialNumber),
-                    query("HardwareId", hardwareId),
-                });
+    readQueries(elementAt(response, {}), {
+                                             query("Manufacturer", manufacturer),
+                                             query("Model", model),
+                                             query("FirmwareVersion", firmwareVersion),
+                                             query("SerialNumber", serialNumber),
+                                             query("HardwareId", hardwareId),
+                                         });
 }
 
 OnvifDeviceInformation::OnvifDeviceInformation(const OnvifDeviceInformation &other) = default;

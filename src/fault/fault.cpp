@@ -143,11 +143,11 @@ QString OnvifFault::tr(const char *sourceText, const char *disambiguation, int n
 
 void OnvifFault::classify()
 {
-    if (const auto code = foundText(response, u"/Envelope/Body/Fault/Code/Value"_s))
+    if (const auto code = foundText(elementAt(response, u"/Envelope/Body/Fault/Code/Value"_s)))
         classifySoapFault(*code);
-    else if (const auto title = foundText(response, u"/html/head/title"_s))
+    else if (const auto title = foundText(elementAt(response, u"/html/head/title"_s)))
         faultType = typeByText(httpCodes, *title, UnknownHttpError);
-    else if (const auto reason = foundText(response, u"/Fault/Reason/Text"_s))
+    else if (const auto reason = foundText(elementAt(response, u"/Fault/Reason/Text"_s)))
         faultType = typeByText(transportCodes, *reason, typeByText(httpCodes, *reason, UnknownTransportError));
 }
 
@@ -158,9 +158,10 @@ void OnvifFault::classifySoapFault(const QString &value)
         faultType = UnknownSoapCode;
         return;
     }
+    const RecordElement fault = elementAt(response, u"/Envelope/Body/Fault"_s);
     if (code->type == Sender) {
         // Devices tell in the reason what their web server refused.
-        const QString reason = response.getText(u"/Envelope/Body/Fault/Reason/Text"_s);
+        const QString reason = fault.at(u"/Reason/Text"_s).text();
         if (reason.contains(QLatin1String("HTTP"))) {
             faultType = typeByText(httpCodes, reason, UnknownHttpError);
             return;
@@ -169,7 +170,7 @@ void OnvifFault::classifySoapFault(const QString &value)
     faultType = code->type;
     if (code->subcodes.isEmpty())
         return;
-    const QString subcodeValue = response.getText(u"/Envelope/Body/Fault/Code/Subcode/Value"_s);
+    const QString subcodeValue = fault.at(u"/Code/Subcode/Value"_s).text();
     const Subcode *subcode = match(code->subcodes, subcodeValue);
     if (!subcode)
         return;
@@ -182,7 +183,7 @@ void OnvifFault::classifySoapFault(const QString &value)
 
 QString OnvifFault::getSpecificCode()
 {
-    return response.getText(u"/Envelope/Body/Fault/Code/Subcode/Subcode/Value"_s);
+    return elementAt(response, u"/Envelope/Body/Fault/Code/Subcode/Subcode/Value"_s).text();
 }
 
 } // namespace vorn

@@ -81,6 +81,23 @@ QByteArray comparable(QByteArrayView name)
     return result;
 }
 
+/// Versions of ICU read these characters of GB18030 as what they have been since its edition of 2022, or as characters
+/// for private use, which stood for them before. Here they are what they are now.
+void replacePrivateCharactersOfGb18030(QString &text)
+{
+    constexpr QStringView before = u"\uE5E5\uE78D\uE78E\uE78F\uE790\uE791\uE792\uE793\uE794\uE795\uE796"
+                                   u"\uE81E\uE826\uE82B\uE82C\uE832\uE843\uE854\uE864";
+    constexpr QStringView now = u"\u3000\uFE10\uFE12\uFE11\uFE13\uFE14\uFE15\uFE16\uFE17\uFE18\uFE19"
+                                u"\u9FB4\u9FB5\u9FB6\u9FB7\u9FB8\u9FB9\u9FBA\u9FBB";
+    static_assert(before.size() == now.size());
+    for (QChar &character : text) {
+        const qsizetype index =
+            character < before.front() || character > before.back() ? -1 : before.indexOf(character);
+        if (index >= 0)
+            character = now[index];
+    }
+}
+
 /// Decodes by the name in the XML declaration, unless that is UTF-8 or of no use.
 std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
 {
@@ -98,6 +115,8 @@ std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
     if (!decoder.isValid())
         return std::nullopt;
     QString text = decoder(bytes);
+    if (comparable(decoder.name()) == "gb18030") // by whatever name
+        replacePrivateCharactersOfGb18030(text);
     // Devices declare "utf-16" because their text was in memory that way, and then send UTF-8. A declaration that does
     // not survive its own encoding is wrong.
     if (!QStringView(text).trimmed().startsWith(QLatin1String(declarationStart)))

@@ -14,7 +14,7 @@ namespace {
 template <typename View>
 Q_NEVER_INLINE bool equalsDecoded(const char *utf8, View text)
 {
-    return toQString(utf8) == text.toString();
+    return toQString(utf8) == toText(text);
 }
 
 char16_t unsignedUnit(char unit)

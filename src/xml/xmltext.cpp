@@ -3,7 +3,6 @@
 #include "numbers.h"
 #include "xmlnames.h"
 
-#include <QtCore/QByteArrayView>
 #include <QtCore/QStringDecoder>
 #include <QtCore/QVarLengthArray>
 
@@ -88,12 +87,11 @@ private:
 
 } // namespace
 
-QString toQString(const char *utf8)
+QString toQString(QByteArrayView utf8)
 {
-    const QByteArrayView bytes(utf8);
-    if (isAscii(bytes)) // as nearly all is; then it need not be decoded
-        return QString::fromLatin1(bytes);
-    return bytes.startsWith(byteOrderMark) ? QString(valueDecoder()(bytes)) : QString::fromUtf8(bytes);
+    if (isAscii(utf8)) // as nearly all is; then it need not be decoded
+        return QString::fromLatin1(utf8);
+    return utf8.startsWith(byteOrderMark) ? QString(valueDecoder()(utf8)) : QString::fromUtf8(utf8);
 }
 
 bool isCharacterData(pugi::xml_node_type type, const char *utf8)
@@ -119,7 +117,7 @@ bool hasText(pugi::xml_node element, QAnyStringView text)
         return false;
     if (!element.first_child() && !isBlank(element.value()))
         return text.visit([element](auto view) { return equals(element.value(), view); });
-    return textOf(element) == text.toString();
+    return text.visit([element](auto view) { return textOf(element) == toText(view); });
 }
 
 unsigned int uintOf(pugi::xml_node element)

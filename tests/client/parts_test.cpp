@@ -85,7 +85,11 @@ TEST(Address, isAHostWithAnOptionalPort)
 {
     EXPECT_EQ(client::deviceServiceUrl("192.0.2.7"), QUrl("http://192.0.2.7/onvif/device_service"));
     EXPECT_EQ(client::deviceServiceUrl("[2001:db8::1]:8080"), QUrl("http://[2001:db8::1]:8080/onvif/device_service"));
-    for (const char *text : {"", ":80", "a:", "a b", "a/b", "a?b", "a#b", "u@a", "http://a", "a:99999"})
+    EXPECT_EQ(client::deviceServiceUrl("http://192.0.2.7"), QUrl("http://192.0.2.7/onvif/device_service"));
+    EXPECT_EQ(client::deviceServiceUrl("https://192.0.2.7:8443/"), QUrl("https://192.0.2.7:8443/onvif/device_service"));
+    EXPECT_EQ(client::deviceServiceUrl("https://cam/onvif/other"), QUrl("https://cam/onvif/other"));
+    for (const char *text : {"", ":80", "a:", "a b", "a/b", "a?b", "a#b", "u@a", "a:99999", "a:0", "http://",
+                             "https://u:p@a/", "http://a?b", "http://a#b", "https:a", "ftp://a", "file:///etc/passwd"})
         EXPECT_FALSE(client::deviceServiceUrl(text).isValid()) << text;
 }
 
@@ -105,6 +109,20 @@ TEST(Address, ofAServiceStaysOnTheHostThatWasAsked)
         {"", "http://192.0.2.7:8080/onvif/device_service"},
         {"http://10.1.2.3", "http://192.0.2.7:8080/onvif/device_service"},
         {"no url at all", "http://192.0.2.7:8080/onvif/device_service"},
+    };
+    for (const auto &[xAddr, url] : rows)
+        EXPECT_EQ(client::urlOnSameHost(asked, xAddr).toString(), url) << xAddr;
+}
+
+TEST(Address, ofAServiceStaysOnTls)
+{
+    const QUrl asked("https://192.0.2.7:8443/onvif/device_service");
+    const std::pair<const char *, const char *> rows[] = {
+        {"http://192.0.2.7/onvif/media", "https://192.0.2.7:8443/onvif/media"},
+        {"http://192.0.2.7:8443/onvif/media", "https://192.0.2.7:8443/onvif/media"},
+        {"https://192.0.2.7/onvif/media", "https://192.0.2.7/onvif/media"},
+        {"http://10.1.2.3/onvif/media", "https://192.0.2.7:8443/onvif/media"},
+        {"/onvif/media", "https://192.0.2.7:8443/onvif/media"},
     };
     for (const auto &[xAddr, url] : rows)
         EXPECT_EQ(client::urlOnSameHost(asked, xAddr).toString(), url) << xAddr;
@@ -132,6 +150,9 @@ TEST(Failure, isToldToTheLibrary)
         {TransportFailure::EmptyReply, OnvifFault::EmptyReply},
         {TransportFailure::PartialReply, OnvifFault::PartialFile},
         {TransportFailure::ReceiveFailure, OnvifFault::ReceiveFailure},
+        {TransportFailure::NotConnected, OnvifFault::UnknownTransportError},
+        {TransportFailure::NoTls, OnvifFault::UnknownTransportError},
+        {TransportFailure::NotTrusted, OnvifFault::UnknownTransportError},
         {TransportFailure::Other, OnvifFault::UnknownTransportError},
     };
     for (const auto &[failure, type] : rows)
@@ -154,10 +175,10 @@ TEST(Failure, isClassedByWhatQtTells)
 {
     const std::pair<QNetworkReply::NetworkError, TransportFailure> rows[] = {
         {QNetworkReply::NoError, TransportFailure::None},
-        {QNetworkReply::ConnectionRefusedError, TransportFailure::Other},
+        {QNetworkReply::ConnectionRefusedError, TransportFailure::NotConnected},
         {QNetworkReply::RemoteHostClosedError, TransportFailure::PartialReply},
         {QNetworkReply::HostNotFoundError, TransportFailure::HostNotResolved},
-        {QNetworkReply::SslHandshakeFailedError, TransportFailure::Other},
+        {QNetworkReply::SslHandshakeFailedError, TransportFailure::NoTls},
         {QNetworkReply::ProtocolUnknownError, TransportFailure::UnsupportedProtocol},
         {QNetworkReply::ProtocolFailure, TransportFailure::ReceiveFailure},
         {QNetworkReply::ProtocolInvalidOperationError, TransportFailure::None},

@@ -101,12 +101,25 @@ struct Result
     QString errors;
 };
 
+/// Keeps what is JSON of the \a output of camera-report, for the schema to be held against it.
+inline void keepJson(const QByteArray &output)
+{
+    static QFile file(QStringLiteral(JSON_FILE));
+    if (!output.startsWith('{'))
+        return;
+    EXPECT_TRUE(file.isOpen() || file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(output);
+    file.flush();
+}
+
 inline Result resultOf(QProcess &process)
 {
     if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
         return {};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    const QByteArray output = process.readAllStandardOutput();
+    if (process.program() == QStringLiteral(REPORT_PROGRAM))
+        keepJson(output);
+    return {process.exitCode(), QString::fromUtf8(output), QString::fromUtf8(process.readAllStandardError())};
 }
 
 /// Runs camera-report, which says only what failed.

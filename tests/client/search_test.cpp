@@ -46,7 +46,9 @@ TEST(Search, listsWhoAnswers)
     const Result result = search(device, {"--probe-address", "{probe}"}, "\n");
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(result.output, device.filledIn("{address}: Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n"));
+    EXPECT_EQ(
+        result.output,
+        device.filledIn("{address}, https://192.168.7.20: Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n"));
 }
 
 TEST(Search, listsEachOfTwoHundredOnce)
@@ -87,7 +89,7 @@ TEST(Search, asksNobodyButWhoAnswered)
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.output, "10.1.2.3:8080: BULLET-4K (Video)\n");
     EXPECT_EQ(result.errors,
-              "camera-report: The camera that answered from 127.0.0.1 names only other addresses, so it is "
+              "camera-report: The camera that answered from 127.0.0.1 names no address of that host, so it is "
               "not asked: 10.1.2.3:8080.\n");
 }
 
@@ -96,7 +98,7 @@ TEST(Search, printsJson)
     const SimulatedDevice device({samples("many-namespaces")});
     const Result result = search(device, {"--probe-address", "{probe}", "--json"}, "\n");
     const QJsonObject expected{{"sender", "127.0.0.1"},
-                               {"addresses", QJsonArray{device.address()}},
+                               {"addresses", QJsonArray{device.address(), "https://192.168.7.20"}},
                                {"name", "Front Door"},
                                {"hardware", "DOME-360"},
                                {"types", QJsonArray{"Video", "PTZ", "Audio", "Analytics", "ProfileS"}}};
@@ -138,8 +140,9 @@ TEST(Search, leavesOutWhatIsNoProbeMatch)
             device.writeDatagram(probe.makeReply(test::contentsOf(samples(sample))));
         return test::resultOf(process);
     });
-    EXPECT_EQ(result.output, "192.168.7.20, [2001:db8::20]:8080, 169.254.12.7, [fe80::a1b:2cff:fe3d:4e5f]: "
-                             "Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n");
+    EXPECT_EQ(result.output,
+              "192.168.7.20, [2001:db8::20]:8080, 169.254.12.7, [fe80::a1b:2cff:fe3d:4e5f], https://192.168.7.20: "
+              "Front Door (Video, PTZ, Audio, Analytics, ProfileS)\n");
 }
 
 } // namespace

@@ -1,13 +1,9 @@
 // Ctrl-C, and the password that is typed at a terminal.
 
 #include "client/programs.h"
+#include "client/terminal.h"
 
-#include <array>
 #include <csignal>
-#include <cstdlib>
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/ioctl.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -36,7 +32,7 @@ TEST(Stop, endsAReportThatWaits)
     for (const int signal : {SIGINT, SIGTERM}) {
         QProcess process;
         process.start(QStringLiteral(REPORT_PROGRAM), {"--address", device.address(), "--timeout", "3600"});
-        ASSERT_TRUE(waitForError(process, "for GetDeviceInformation"));
+        ASSERT_TRUE(waitForError(process, "for GetSystemDateAndTime"));
         ASSERT_EQ(kill(static_cast<pid_t>(process.processId()), signal), 0);
         const Result result = test::resultOf(process);
         EXPECT_EQ(result.exitCode, 130);
@@ -54,63 +50,10 @@ TEST(Stop, endsASearch)
     EXPECT_EQ(test::resultOf(process).exitCode, 130);
 }
 
-/// A terminal that a program can be started at, and somebody who types.
-class Terminal
-{
-public:
-    Terminal()
-        : m_keyboard(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC))
-    {
-        EXPECT_TRUE(grantpt(m_keyboard) == 0 && unlockpt(m_keyboard) == 0);
-        std::array<char, 256> name = {};
-        EXPECT_EQ(ptsname_r(m_keyboard, name.data(), name.size()), 0);
-        m_name = name.data();
-    }
-
-    Terminal(const Terminal &) = delete;
-    Terminal &operator=(const Terminal &) = delete;
-
-    ~Terminal() { close(m_keyboard); }
-
-    /// Makes this the terminal of \a process, which is not started yet.
-    void giveTo(QProcess &process) const
-    {
-        process.setChildProcessModifier([name = m_name] {
-            setsid();
-            const int terminal = open(name.c_str(), O_RDWR);
-            ioctl(terminal, TIOCSCTTY, 0);
-        });
-    }
-
-    void type(const QByteArray &keys) const
-    {
-        EXPECT_EQ(write(m_keyboard, keys.constData(), static_cast<std::size_t>(keys.size())), keys.size());
-    }
-
-    /// What the terminal shows until it shows \a end.
-    QByteArray shownUntil(const QByteArray &end) const
-    {
-        QByteArray shown;
-        pollfd waiting{m_keyboard, POLLIN, 0};
-        while (!shown.contains(end) && poll(&waiting, 1, test::patience) == 1) {
-            std::array<char, 256> buffer = {};
-            const ssize_t size = read(m_keyboard, buffer.data(), buffer.size());
-            if (size <= 0)
-                break;
-            shown.append(buffer.data(), size);
-        }
-        return shown;
-    }
-
-private:
-    int m_keyboard;
-    std::string m_name;
-};
-
 TEST(Password, isTypedWithoutBeingShown)
 {
     const SimulatedDevice device({samples("short-prefixes"), "--auth", "token", "--password", "ü secret"});
-    const Terminal terminal;
+    const test::Terminal terminal;
     QProcess process;
     terminal.giveTo(process);
     process.start(QStringLiteral(REPORT_PROGRAM),
@@ -126,7 +69,7 @@ TEST(Password, isTypedWithoutBeingShown)
 TEST(Password, canBeGivenUp)
 {
     for (const char *key : {"\x03", "\x04"}) { // Ctrl-C, Ctrl-D
-        const Terminal terminal;
+        const test::Terminal terminal;
         QProcess process;
         terminal.giveTo(process);
         process.start(QStringLiteral(REPORT_PROGRAM), {"--address", "192.0.2.1", "--user", "operator"});

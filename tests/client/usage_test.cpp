@@ -12,16 +12,28 @@ using test::SimulatedDevice;
 TEST(Usage, isWrongInOneSentence)
 {
     const std::pair<QStringList, const char *> rows[] = {
-        {{}, "Name one camera with --address, or with --interface where to search for cameras: "},
-        {{"--address", "a", "--interface", "b"}, "Name one camera with --address, or with --interface where"},
-        {{"--address", ""}, " is no address such as 192.0.2.7 or 192.0.2.7:8080."},
-        {{"--address", "a b"}, "a b is no address such as 192.0.2.7 or 192.0.2.7:8080."},
-        {{"--address", "192.0.2.7:99999"}, "192.0.2.7:99999 is no address such as"},
-        {{"--address", "user:secret@192.0.2.7"}, " is no address such as"},
-        {{"--address", "192.0.2.7/path"}, "192.0.2.7/path is no address such as"},
+        {{}, "Name cameras with --address, or with --interface where to search for cameras: "},
+        {{"--address", "a", "--interface", "b"}, "Name cameras with --address, or with --interface where"},
+        {{"--address", ""}, " is no address: give a host such as 192.0.2.7, 192.0.2.7:8080 or [2001:db8::7], or a URL"},
+        {{"--address", "a b"}, "a b is no address: give a host such as"},
+        {{"--address", "a", "--address", "a b"}, "a b is no address: give a host such as"},
+        {{"--address", "192.0.2.7:99999"}, "192.0.2.7:99999 is no address: "},
+        {{"--address", "user:secret@192.0.2.7"}, " is no address: "},
+        {{"--address", "192.0.2.7/path"}, "192.0.2.7/path is no address: "},
+        {{"--address", "ftp://192.0.2.7"}, "ftp://192.0.2.7 is no address: "},
+        {{"--addresses", "/nowhere"}, "The file /nowhere cannot be read: No such file or directory."},
+        {{"--addresses", "/dev/null"}, "There is no address in /dev/null."},
         {{"--address", "a", "--all"}, "--all is for a search: give --interface instead of --address."},
         {{"--address", "a", "--timeout", "soon"}, "--timeout wants a number of seconds from 0.01 to 3600."},
         {{"--address", "a", "--timeout", "0"}, "--timeout wants a number of seconds from 0.01 to 3600."},
+        {{"--address", "a", "--jobs", "0"}, "--jobs wants a number from 1 to 1000."},
+        {{"--address", "a", "--clock-limit", "-1"}, "--clock-limit wants a number of days from 0 to 100000."},
+        {{"--address", "a", "--json", "--table"}, "--json and --table exclude each other."},
+        {{"--address", "a", "--save", "/proc/nothing"}, "The folder /proc/nothing cannot be made."},
+        {{"--probe-address", "192.0.2.7:3702", "--table"}, "--table and --save go with --address, or with a search"},
+        {{"--address", "a", "--address", "b", "--set-dhcp", "e"},
+         "An interface can be set only of the one camera that"},
+        {{"--address", "a", "--set-dhcp", "e", "--table"}, "--table and --save are for reports."},
         {{"--address", "a", "--timeout", "nan"}, "--timeout wants a number of seconds from 0.01 to 3600."},
         {{"--address", "a", "--password-file", "f"}, "--user wants the name of the user, also where"},
         {{"--address", "a", "--user", ""}, "--user wants the name of the user, also where"},
@@ -29,7 +41,8 @@ TEST(Usage, isWrongInOneSentence)
         {{"--address", "a", "--set-address", "eth0"}, "eth0 has not the form eth0=192.0.2.7/24."},
         {{"--address", "a", "--set-dhcp", "e", "--set-address", "e=192.0.2.7/24"},
          "--set-dhcp and --set-address exclude each other."},
-        {{"--probe-address", "192.0.2.7:3702", "--set-dhcp", "e"}, "An interface can be set only of the camera that"},
+        {{"--probe-address", "192.0.2.7:3702", "--set-dhcp", "e"},
+         "An interface can be set only of the one camera that"},
         {{"--probe-address", "192.0.2.7"}, "192.0.2.7 is no IPv4 address with a port, such as 192.0.2.7:3702."},
         {{"--probe-address", "host:1"}, "host:1 is no IPv4 address with a port, such as 192.0.2.7:3702."},
         {{"--interface", "no such"}, "This machine has no network interface no such; it has: "},
@@ -51,8 +64,33 @@ TEST(Usage, isExplained)
     const Result help = report({"--help"});
     EXPECT_EQ(help.exitCode, 0);
     EXPECT_EQ(help.errors, "");
-    for (const char *what : {"--address", "--set-dhcp", "Exit codes: 0", "130"})
+    for (const char *what : {"--address ADDRESS",
+                             "--addresses FILE",
+                             "--interface NAME",
+                             "--probe-address IP:PORT",
+                             "--all",
+                             "--user NAME",
+                             "--password-file FILE",
+                             "--insecure",
+                             "--clock-limit DAYS",
+                             "--timeout SECONDS",
+                             "--jobs NUMBER",
+                             "--json",
+                             "--table",
+                             "--save FOLDER",
+                             "--quiet",
+                             "--set-dhcp INTERFACE",
+                             "--set-address INTERFACE=ADDRESS/PREFIX",
+                             "--apply",
+                             "-h, --help",
+                             "-v, --version",
+                             "Exit codes: 0",
+                             "130"})
         EXPECT_TRUE(help.output.contains(what)) << what;
+    const QStringList lines = help.output.split('\n');
+    EXPECT_LE(lines.size(), 40);
+    for (const QString &line : lines)
+        EXPECT_LE(line.size(), 80) << line.toStdString();
     const Result version = report({"--version"});
     EXPECT_EQ(version.exitCode, 0);
     EXPECT_EQ(version.output, "camera-report " PROJECT_VERSION_TEXT "\n");

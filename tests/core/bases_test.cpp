@@ -107,6 +107,12 @@ TEST(OnvifResponseStructure, parsesBelowTheRootAndKeepsTheText)
     EXPECT_EQ(structure.xml, "<Envelope><Body>1</Body></Envelope>");
 }
 
+TEST(OnvifResponseStructure, isViewedWhereItIsConst)
+{
+    const OnvifResponseStructure structure("<Envelope><Body>1</Body></Envelope>", "/Envelope");
+    EXPECT_EQ(structure.response.view("/Body").text(), "1");
+}
+
 TEST(OnvifResponseStructure, keepsTheTextOfWhatCannotBeParsed)
 {
     EXPECT_EQ(OnvifResponseStructure("no xml", "/Envelope").xml, "no xml");

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <type_traits>
 
+using vorn::elementAt;
 using vorn::field;
 using vorn::nested;
 using vorn::query;
@@ -280,7 +281,7 @@ TEST(ReadQueries, readsTheFirstElementAtEachPath)
     XmlResponse response("<r><p><A>1</A><A>2</A></p><p><A>3</A><B>x</B></p></r>", "/r");
     int a = 0;
     QString b;
-    readQueries(response, QStringLiteral("/p"), {query("A", a), query("B", b)});
+    readQueries(elementAt(response, QStringLiteral("/p")), {query("A", a), query("B", b)});
     EXPECT_EQ(a, 1);
     EXPECT_TRUE(b.isNull());
 }
@@ -289,7 +290,7 @@ TEST(ReadQueries, leavesFieldsWhereTheParentIsMissing)
 {
     XmlResponse response("<r/>", "/r");
     QString text = "before";
-    readQueries(response, QStringLiteral("/p"), {query("A", text)});
+    readQueries(elementAt(response, QStringLiteral("/p")), {query("A", text)});
     EXPECT_EQ(text, "before");
 }
 
@@ -301,7 +302,7 @@ TEST(ReadQueries, booleansAreTrueForBothWordsOfXmlSchema)
     bool b = false;
     bool c = true;
     bool d = true;
-    readQueries(response, QString(), {query("A", a), query("B", b), query("C", c), query("D", d)});
+    readQueries(elementAt(response, QString()), {query("A", a), query("B", b), query("C", c), query("D", d)});
     EXPECT_TRUE(a);
     EXPECT_TRUE(b);
     EXPECT_FALSE(c);

@@ -279,6 +279,15 @@ TEST(OnvifCameraScopes, tellVideoOnceAndOthersAsOftenAsSaid)
         << "the newest first";
 }
 
+TEST(OnvifCamera, typeIsComparedInLowerCase)
+{
+    EXPECT_EQ(factsOf(scopes({"TYPE/VIDEO_Encoder"})), Facts({{"type", "Video"}}));
+    // The sign for kelvin is a k in lower case; the long s is in lower case already.
+    EXPECT_EQ(factsOf(scopes({"type/Networ\xE2\x84\xAA_Video_Transmitter"})), Facts({{"type", "Video"}}));
+    EXPECT_EQ(factsOf(scopes({"type/Network_Video_Tran\xC5\xBFmitter"})), Facts());
+    EXPECT_EQ(factsOf(scopes({"type/Audio_Encoders", "type/PT\xC5\xBB"})), Facts());
+}
+
 TEST(OnvifCameraScopes, tellTheName)
 {
     EXPECT_EQ(factsOf(scopes({"name/My%20Camera"})), Facts({{"name", "My Camera"}}));

@@ -28,35 +28,19 @@ void isolate()
     std::vector<sock_filter> program{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
     for (const int call : {
 #ifdef SYS_open // each processor has a choice of its own
-             SYS_open,
-             SYS_stat,
-             SYS_creat,
-             SYS_fork,
-             SYS_vfork,
+             SYS_open,       SYS_stat,   SYS_creat,    SYS_fork,    SYS_vfork,
 #endif
 #ifdef SYS_newfstatat
              SYS_newfstatat,
 #endif
 #ifdef SYS_fstatat64
-             SYS_fstatat64,
-             SYS_stat64,
-             SYS_lstat64,
+             SYS_fstatat64,  SYS_stat64, SYS_lstat64,
 #endif
 #ifdef SYS_socketcall
              SYS_socketcall,
 #endif
-             SYS_openat,
-             SYS_statx,
-             SYS_socket,
-             SYS_connect,
-             SYS_sendto,
-             SYS_sendmsg,
-             SYS_write,
-             SYS_writev,
-             SYS_pwrite64,
-             SYS_clone,
-             SYS_clone3,
-             SYS_execve,
+             SYS_openat,     SYS_statx,  SYS_socket,   SYS_connect, SYS_sendto, SYS_sendmsg,
+             SYS_write,      SYS_writev, SYS_pwrite64, SYS_clone,   SYS_clone3, SYS_execve,
          }) {
         program.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned int>(call), 0, 1));
         program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_KILL_PROCESS));

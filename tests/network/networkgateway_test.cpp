@@ -1,3 +1,4 @@
+#include "support/parsing.h"
 #include "support/printing.h"
 
 #include <vorn/onvif/network.h>
@@ -172,10 +173,9 @@ TEST(OnvifNetworkGatewayToString, escapesAndExpandsNothing)
 TEST(OnvifNetworkGatewayToString, fitsIntoARequest)
 {
     QDomDocument document;
-    ASSERT_TRUE(document.setContent("<tds:SetNetworkDefaultGateway xmlns:tds='http://www.onvif.org/ver10/device/wsdl'"
-                                    " xmlns:tt='http://www.onvif.org/ver10/schema'>"
-                                        + OnvifNetworkGateway(both).toString() + "</tds:SetNetworkDefaultGateway>",
-                                    true));
+    ASSERT_TRUE(test::parse(document, "<tds:SetNetworkDefaultGateway xmlns:tds='http://www.onvif.org/ver10/device/wsdl'"
+                                      " xmlns:tt='http://www.onvif.org/ver10/schema'>"
+                                          + OnvifNetworkGateway(both).toString() + "</tds:SetNetworkDefaultGateway>"));
     const QDomElement ipv4 = document.documentElement().firstChildElement();
     EXPECT_EQ(ipv4.localName(), "IPv4Address");
     EXPECT_EQ(ipv4.namespaceURI(), "http://www.onvif.org/ver10/schema");

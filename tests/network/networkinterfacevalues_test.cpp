@@ -1,6 +1,7 @@
 // Comparing, hashing and printing network interfaces and their parts.
 
 #include "support/catalogue.h"
+#include "support/parsing.h"
 #include "support/printing.h"
 #include "support/recordingtranslator.h"
 
@@ -556,14 +557,11 @@ TEST(NetworkInterfaceToString, isCalledThroughTheBase)
 TEST(NetworkInterfaceToString, fitsIntoARequest)
 {
     QDomDocument document;
-    QString error;
-    ASSERT_TRUE(document.setContent("<s:Envelope xmlns:s='http://www.w3.org/2003/05/soap-envelope'"
-                                    " xmlns:tds='http://www.onvif.org/ver10/device/wsdl'"
-                                    " xmlns:tt='http://www.onvif.org/ver10/schema'><s:Body><tds:SetNetworkInterfaces>"
-                                        + someInterface().toString()
-                                        + "</tds:SetNetworkInterfaces></s:Body></s:Envelope>",
-                                    true, &error))
-        << error.toStdString();
+    ASSERT_TRUE(test::parse(document, "<s:Envelope xmlns:s='http://www.w3.org/2003/05/soap-envelope'"
+                                      " xmlns:tds='http://www.onvif.org/ver10/device/wsdl'"
+                                      " xmlns:tt='http://www.onvif.org/ver10/schema'><s:Body><tds:SetNetworkInterfaces>"
+                                          + someInterface().toString()
+                                          + "</tds:SetNetworkInterfaces></s:Body></s:Envelope>"));
     const QDomElement request = document.documentElement().firstChildElement().firstChildElement();
     const QDomElement token = request.firstChildElement();
     EXPECT_EQ(token.localName(), "InterfaceToken");

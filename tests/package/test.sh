@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Uses the library as programs outside its tree do: installed and moved, found by CMake and by pkg-config, added as a
-# subfolder, shared and static, with GCC and Clang, as C++17 and C++20, and from its Debian packages.
+# subfolder, shared and static, with GCC and Clang, as C++17, C++20 and C++23, and from its Debian packages.
 #
 # usage: test.sh SOURCE WORK     SOURCE is the top folder; WORK is emptied and used
 set -euo pipefail
@@ -71,7 +71,7 @@ for kind in shared static; do
     ! grep -rlF -e "$source" -e "$work" "$work/moved-$kind" || { echo "package test: the above name a folder of the build" >&2; exit 1; }
     quietly "$work/moved-$kind/bin/onvif-inspect" "$source/samples/short-prefixes/GetDeviceInformation.xml"
 
-    for standard in 17 20; do
+    for standard in 17 20 23; do
         for compiler in g++ clang++; do
             consume "$kind, find_package, C++$standard, $compiler" -DCMAKE_PREFIX_PATH="$work/moved-$kind" "${strict[@]}" \
                 -DCMAKE_CXX_STANDARD=$standard -DCMAKE_CXX_COMPILER=$compiler

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "support/patience.h"
 #include "support/printing.h"
+#include "support/run.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QMap>
 #include <QtCore/QPair>
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtXml/QDomDocument>
 #include <gtest/gtest.h>
@@ -21,13 +20,10 @@ inline QMap<QString, QList<Message>> messagesByContext()
 {
     const QTemporaryDir folder;
     const QString catalogue = folder.filePath("catalogue.ts");
-    QProcess lupdate;
-    lupdate.start(QStringLiteral(LUPDATE_PROGRAM),
-                  {"-silent", "-extensions", "cpp,h", "-I", QStringLiteral(INCLUDE_FOLDER),
-                   QStringLiteral(SOURCE_FOLDER), "-ts", catalogue});
-    EXPECT_TRUE(lupdate.waitForFinished(test::patience)) << "lupdate does not run";
-    EXPECT_EQ(lupdate.exitCode(), 0);
-    EXPECT_EQ(lupdate.readAllStandardError(), QByteArray()) << "lupdate warns";
+    const RunResult lupdate = run({QStringLiteral(LUPDATE_PROGRAM), "-silent", "-extensions", "cpp,h", "-I",
+                                   QStringLiteral(INCLUDE_FOLDER), QStringLiteral(SOURCE_FOLDER), "-ts", catalogue});
+    EXPECT_EQ(lupdate.status, 0);
+    EXPECT_EQ(lupdate.output, QByteArray()) << "lupdate warns";
 
     QFile file(catalogue);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));

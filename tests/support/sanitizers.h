@@ -1,11 +1,21 @@
 #pragma once
 
 #if defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define SANITIZED
+#if __has_feature(address_sanitizer)
+#define ADDRESS_SANITIZED
+#endif
+#if __has_feature(thread_sanitizer)
+#define THREAD_SANITIZED
 #endif
 #endif
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#ifdef __SANITIZE_ADDRESS__
+#define ADDRESS_SANITIZED
+#endif
+#ifdef __SANITIZE_THREAD__
+#define THREAD_SANITIZED
+#endif
+
+#if defined(ADDRESS_SANITIZED) || defined(THREAD_SANITIZED)
 #define SANITIZED
 #endif
 

@@ -1,4 +1,4 @@
-// Copies of one record or response on several threads at once, each with its own. ThreadSanitizer tells what they
+// Copies of one record, response or view on several threads at once, each with its own. ThreadSanitizer tells what they
 // share.
 
 #include "support/printing.h"
@@ -63,6 +63,15 @@ QString answers(XmlResponseNode &node)
     return all;
 }
 
+QString answers(XmlElementView &view)
+{
+    QString all = view.name() + view.text() + view.attribute("token") + view.at("/Name").text();
+    all += QString::number(view.toUInt() + view.toDouble() + view.hasName("Name") + view.hasText("true"));
+    for (XmlElementView child : view.children())
+        all += answers(child);
+    return all;
+}
+
 QString answers(XmlResponse &response)
 {
     XmlResponseNode node = response.get("");
@@ -71,6 +80,8 @@ QString answers(XmlResponse &response)
     QString all = answers(node) + response.getText(node, "/" + node.name);
     all += response.xml() + response.getText("") + response.getAttribute("token", "");
     all += QString::number(response.getAll("").size() + response.getUInt("") + response.getBool(""));
+    for (XmlElementView view : response.viewAll(""))
+        all += answers(view);
     return all;
 }
 
@@ -176,6 +187,12 @@ void useElementOnThreads(const char *name, const char *response, const char *pat
 TEST(Threads, shareAResponse)
 {
     useOnThreads(XmlResponse(sample("many-namespaces/GetProfiles"), pathOf("GetProfilesResponse")));
+}
+
+TEST(Threads, shareAViewOfOneResponse)
+{
+    const XmlResponse response(sample("many-namespaces/GetProfiles"), pathOf("GetProfilesResponse"));
+    useOnThreads(response.view(""));
 }
 
 TEST(Threads, shareANode)

@@ -1,7 +1,7 @@
 // What an application does to show the library's texts in another language: docs/translating.md shows parts of this.
 
-#include "support/patience.h"
 #include "support/printing.h"
+#include "support/run.h"
 
 #include <vorn/onvif/faults.h>
 #include <vorn/onvif/network.h>
@@ -9,7 +9,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTranslator>
 #include <gtest/gtest.h>
@@ -61,10 +60,9 @@ protected:
         file.write(catalogue);
         file.close();
 
-        QProcess lrelease;
-        lrelease.start(QStringLiteral(LRELEASE_PROGRAM), {"-silent", file.fileName(), "-qm", compiled()});
-        ASSERT_TRUE(lrelease.waitForFinished(test::patience)) << "lrelease does not run";
-        ASSERT_EQ(lrelease.exitCode(), 0) << lrelease.readAllStandardError().constData();
+        const test::RunResult lrelease =
+            test::run({QStringLiteral(LRELEASE_PROGRAM), "-silent", file.fileName(), "-qm", compiled()});
+        ASSERT_EQ(lrelease.status, 0) << lrelease.output.constData();
     }
 
     QString compiled() const { return folder.filePath("german.qm"); }

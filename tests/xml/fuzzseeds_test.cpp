@@ -2,12 +2,16 @@
 // would draw hardly any path that does.
 
 #include "fuzz/question.h"
+#include "support/printing.h"
 
 #include <vorn/util/xmlresponse.h>
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <gtest/gtest.h>
+
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -22,6 +26,22 @@ TEST(FuzzSeeds, askForElementsThatAreThere)
         EXPECT_TRUE(response.get(question.path).valid) << file.fileName().toStdString();
     }
     EXPECT_GT(count, 0);
+}
+
+TEST(FuzzSeeds, haveTheAnswersThatAreWrittenDown)
+{
+    const std::pair<QString, QString> answers[] = {
+        {"DocumentElement", "1"}, {"Leaf", "front <door>"}, {"Number", "\n 42 "},
+        {"Repeated", " true "},   {"Utf16", "true"},
+    };
+    EXPECT_EQ(QDir(QStringLiteral(SEEDS_FOLDER)).entryList(QDir::Files).size(), qsizetype(std::size(answers)));
+    for (const auto &[name, text] : answers) {
+        QFile file(QStringLiteral(SEEDS_FOLDER "/") + name);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        const fuzz::Question question = fuzz::questionFrom(file.readAll());
+        vorn::XmlResponse response(question.reply, QString());
+        EXPECT_EQ(response.getText(question.path), text) << name.toStdString();
+    }
 }
 
 TEST(FuzzSeeds, areReadAsAQuestionOnlyIfTheyStartWithASlash)

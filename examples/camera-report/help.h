@@ -1,0 +1,8 @@
+#pragma once
+
+namespace client {
+
+/// What --help answers.
+extern const char *const helpText;
+
+} // namespace client

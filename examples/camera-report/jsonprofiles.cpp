@@ -1,0 +1,162 @@
+#include "given.h"
+#include "jsonparts.h"
+
+#include <QtCore/QList>
+
+namespace client {
+namespace {
+
+/// What all configurations have.
+template <typename Configuration>
+QJsonObject start(const Configuration &configuration)
+{
+    return {{"name", orNull(configuration.name)}, {"token", orNull(configuration.token)}};
+}
+
+QJsonValue jsonOf(const vorn::OnvifVideoSourceConfiguration &source, Given &given)
+{
+    if (source.isNull())
+        return {};
+    QJsonObject json = start(source);
+    json["sourceToken"] = orNull(source.sourceToken);
+    json["useCount"] = orNull(given.number("/VideoSourceConfiguration/UseCount", source.useCount));
+    json["bounds"] = source.bounds.isNull() ? QJsonValue()
+                                            : QJsonObject{{"x", source.bounds.x()},
+                                                          {"y", source.bounds.y()},
+                                                          {"width", source.bounds.width()},
+                                                          {"height", source.bounds.height()}};
+    return json;
+}
+
+QJsonValue jsonOf(const vorn::OnvifVideoEncoderConfiguration &video, Given &given)
+{
+    if (video.isNull())
+        return {};
+    const auto number = [&](const char *path, int value) {
+        return orNull(given.number(("/VideoEncoderConfiguration" + QByteArray(path)).constData(), value));
+    };
+    bool hasQuality = false;
+    given.text("/VideoEncoderConfiguration/Quality").trimmed().toDouble(&hasQuality);
+    QJsonObject json = start(video);
+    json["encoding"] = orNull(video.encoding);
+    json["width"] = number("/Resolution/Width", video.resolution.width());
+    json["height"] = number("/Resolution/Height", video.resolution.height());
+    json["quality"] = hasQuality ? QJsonValue(video.quality) : QJsonValue();
+    json["frameRateLimit"] = number("/RateControl/FrameRateLimit", video.frameRateLimit);
+    json["encodingInterval"] = number("/RateControl/EncodingInterval", video.encodingInterval);
+    json["bitrateLimit"] = number("/RateControl/BitrateLimit", video.bitrateLimit);
+    json["sessionTimeout"] = orNull(video.sessionTimeout);
+    json["useCount"] = number("/UseCount", video.useCount);
+    return json;
+}
+
+QJsonValue jsonOf(const vorn::OnvifAudioSourceConfiguration &source)
+{
+    if (source.isNull())
+        return {};
+    QJsonObject json = start(source);
+    json["sourceToken"] = orNull(source.sourceToken);
+    return json;
+}
+
+QJsonValue jsonOf(const vorn::OnvifAudioEncoderConfiguration &audio, Given &given)
+{
+    if (audio.isNull())
+        return {};
+    QJsonObject json = start(audio);
+    json["encoding"] = orNull(audio.encoding);
+    json["bitrate"] = orNull(given.number("/AudioEncoderConfiguration/Bitrate", audio.bitrate));
+    json["sampleRate"] = orNull(given.number("/AudioEncoderConfiguration/SampleRate", audio.sampleRate));
+    json["sessionTimeout"] = orNull(audio.sessionTimeout);
+    return json;
+}
+
+QJsonValue jsonOf(const vorn::OnvifAudioOutputConfiguration &output)
+{
+    if (output.isNull())
+        return {};
+    QJsonObject json = start(output);
+    json["outputToken"] = orNull(output.outputToken);
+    return json;
+}
+
+QJsonValue jsonOf(const vorn::OnvifPtzConfiguration &ptz)
+{
+    if (ptz.isNull())
+        return {};
+    QJsonObject json = start(ptz);
+    json["nodeToken"] = orNull(ptz.nodeToken);
+    json["defaultPtzTimeout"] = orNull(ptz.defaultPtzTimeout);
+    return json;
+}
+
+/// Analytics modules or rules.
+template <typename List>
+QJsonArray partsJson(const List &parts)
+{
+    QJsonArray array;
+    for (const auto &part : parts)
+        array.append(QJsonObject{{"name", orNull(part.name)}, {"type", orNull(part.type)}});
+    return array;
+}
+
+QJsonValue jsonOf(const vorn::OnvifVideoAnalyticsConfiguration &analytics)
+{
+    if (analytics.isNull())
+        return {};
+    QJsonObject json = start(analytics);
+    json["modules"] = partsJson(analytics.analyticsEngineConfiguration);
+    json["rules"] = partsJson(analytics.ruleEngineConfiguration);
+    return json;
+}
+
+QJsonValue jsonOf(const vorn::OnvifMetadataConfiguration &metadata, Given &given)
+{
+    if (metadata.isNull())
+        return {};
+    QJsonObject json = start(metadata);
+    json["analytics"] = orNull(given.flag("/MetadataConfiguration/Analytics"));
+    json["ptzStatus"] = orNull(given.flag("/MetadataConfiguration/PTZStatus/Status"));
+    json["ptzPosition"] = orNull(given.flag("/MetadataConfiguration/PTZStatus/Position"));
+    return json;
+}
+
+QJsonValue uriJson(const Section<QString> &uri)
+{
+    return sectionJson(uri, [](const QString &text) { return QJsonValue(text); });
+}
+
+QJsonObject jsonOf(const vorn::OnvifProfile &profile, const ProfileUris &uris, Given given)
+{
+    return {{"name", orNull(profile.name)},
+            {"token", orNull(profile.token)},
+            {"fixed", orNull(flagOf(given.attribute("fixed")))},
+            {"videoSource", jsonOf(profile.videoSource, given)},
+            {"videoEncoder", jsonOf(profile.videoEncoder, given)},
+            {"audioSource", jsonOf(profile.audioSource)},
+            {"audioEncoder", jsonOf(profile.audioEncoder, given)},
+            {"audioOutput", jsonOf(profile.audioOutput)},
+            {"ptz", jsonOf(profile.ptz)},
+            {"videoAnalytics", jsonOf(profile.videoAnalytics)},
+            {"metadata", jsonOf(profile.metadata, given)},
+            {"streamOverUdp", uriJson(uris.streamOverUdp)},
+            {"streamOverTcp", uriJson(uris.streamOverTcp)},
+            {"snapshot", uriJson(uris.snapshot)}};
+}
+
+} // namespace
+
+QJsonArray profilesJson(const Report &report)
+{
+    const vorn::OnvifProfileVector &profiles = *report.profiles.record;
+    vorn::XmlResponse response = profiles.response; // queries are not const
+    const QList<vorn::XmlResponseNode> nodes = response.getAll("/Profiles");
+    QJsonArray array;
+    for (qsizetype index = 0; index < profiles.size(); ++index) {
+        array.append(jsonOf(profiles[index], report.uris.at(static_cast<std::size_t>(index)),
+                            Given(response, nodes.value(index))));
+    }
+    return array;
+}
+
+} // namespace client
