@@ -107,7 +107,7 @@ TEST(Request, canComeInChunks)
     const SimulatedDevice device({samples("short-prefixes")});
     const QByteArray reply =
         replyTo(device.address(), "POST / HTTP/1.1\r\nHost: device\r\nTransfer-Encoding: chunked\r\n\r\n"
-                                  "A;x=y\r\n<Envelope>\r\n6\r\n<Body>\r\n1d\r\n<GetScopes/></Body></Envelope>\r\n"
+                                  "A;x=y\r\n<Envelope>\r\n6\r\n<Body>\r\n1e\r\n<GetScopes/></Body></Envelope>\r\n"
                                   "0\r\n\r\n");
     EXPECT_EQ(statusOf(reply), 200) << reply.toStdString();
     EXPECT_TRUE(reply.contains("GetScopesResponse"));
