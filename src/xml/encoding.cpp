@@ -5,8 +5,6 @@
 #include <QtCore/QtEndian>
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <initializer_list>
 #include <optional>
 #include <string_view>
@@ -81,8 +79,35 @@ QByteArray comparable(QByteArrayView name)
     return result;
 }
 
-/// Versions of ICU read these characters of GB18030 as what they have been since its edition of 2022, or as characters
-/// for private use, which stood for them before. Here they are what they are now.
+// Versions of ICU differ in GB18030.
+
+/// How many bytes the character at the start of \a bytes takes; 1 if it is none.
+qsizetype sizeOfCharacterOfGb18030(QByteArrayView bytes)
+{
+    const auto isBetween = [bytes](qsizetype index, int first, int last) {
+        return index < bytes.size() && static_cast<unsigned char>(bytes[index]) >= first
+               && static_cast<unsigned char>(bytes[index]) <= last;
+    };
+    if (!isBetween(0, 0x81, 0xFE))
+        return 1;
+    if (isBetween(1, 0x40, 0x7E) || isBetween(1, 0x80, 0xFE))
+        return 2;
+    return isBetween(1, '0', '9') && isBetween(2, 0x81, 0xFE) && isBetween(3, '0', '9') ? 4 : 1;
+}
+
+/// A byte 0x80 that starts a character is none, or the sign for Euro in some versions. Here it is none, as 0xFF is
+/// none.
+QByteArray withoutEurosOfOneByte(QByteArray bytes)
+{
+    for (qsizetype i = 0; i < bytes.size(); i += sizeOfCharacterOfGb18030(QByteArrayView(bytes).sliced(i))) {
+        if (bytes.at(i) == '\x80')
+            bytes[i] = '\xFF';
+    }
+    return bytes;
+}
+
+/// These characters are read as what they have been since the edition of 2022, or as characters for private use, which
+/// stood for them before. Here they are what they are now.
 void replacePrivateCharactersOfGb18030(QString &text)
 {
     constexpr QStringView before = u"\uE5E5\uE78D\uE78E\uE78F\uE790\uE791\uE792\uE793\uE794\uE795\uE796"
@@ -98,6 +123,18 @@ void replacePrivateCharactersOfGb18030(QString &text)
     }
 }
 
+/// The decoder for \a encoding, or an invalid one if Qt does not know it. Qt gives an invalid one when memory runs out
+/// too, and other values would be read: so it is asked again, unless memory is too short.
+QStringDecoder decoderFor(const QByteArray &encoding)
+{
+    QStringDecoder decoder(encoding.constData());
+    if (decoder.isValid())
+        return decoder;
+    constexpr qsizetype roomForDecoder = 65536;
+    (void)QByteArray(roomForDecoder, Qt::Uninitialized); // or std::bad_alloc
+    return QStringDecoder(encoding.constData());
+}
+
 /// Decodes by the name in the XML declaration, unless that is UTF-8 or of no use.
 std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
 {
@@ -111,11 +148,12 @@ std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
         return std::nullopt;
     if (name == "locale") // Qt's name for that of the client, on which it must not depend what a reply says
         return std::nullopt;
-    QStringDecoder decoder(declared.toByteArray().constData());
+    QStringDecoder decoder = decoderFor(declared.toByteArray());
     if (!decoder.isValid())
         return std::nullopt;
-    QString text = decoder(bytes);
-    if (comparable(decoder.name()) == "gb18030") // by whatever name
+    const bool isGb18030 = comparable(decoder.name()) == "gb18030"; // by whatever name
+    QString text = decoder(isGb18030 ? withoutEurosOfOneByte(bytes) : bytes);
+    if (isGb18030)
         replacePrivateCharactersOfGb18030(text);
     // Devices declare "utf-16" because their text was in memory that way, and then send UTF-8. A declaration that does
     // not survive its own encoding is wrong.
@@ -127,16 +165,19 @@ std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
 /// UTF-32 with U+FFFD for each number beyond Unicode, of which QStringDecoder makes other characters in some versions.
 QString decodedFromUtf32(QByteArrayView bytes, bool isBigEndian)
 {
-    QString text;
-    text.reserve(bytes.size() / 4);
+    QString text(bytes.size() / 2, Qt::Uninitialized); // enough for nothing but pairs
+    QChar *next = text.data();
     for (; bytes.size() >= 4; bytes = bytes.sliced(4)) {
         const auto number =
             isBigEndian ? qFromBigEndian<char32_t>(bytes.data()) : qFromLittleEndian<char32_t>(bytes.data());
-        if (number <= QChar::LastValidCodePoint)
-            text += QStringView(QChar::fromUcs4(number));
-        else
-            text += QChar::ReplacementCharacter;
+        if (QChar::requiresSurrogates(number) && number <= QChar::LastValidCodePoint) {
+            *next++ = QChar::highSurrogate(number);
+            *next++ = QChar::lowSurrogate(number);
+        } else {
+            *next++ = number <= 0xFFFF ? QChar(static_cast<char16_t>(number)) : QChar(QChar::ReplacementCharacter);
+        }
     }
+    text.truncate(next - text.data());
     if (text.startsWith(QChar::ByteOrderMark))
         text.remove(0, 1);
     return text;
@@ -155,24 +196,8 @@ std::optional<QString> decodedFromOtherThanUtf8(const QByteArray &bytes)
     return decoder(bytes);
 }
 
-/// Looks at four characters at once. True for some that are no surrogates, too.
-bool mayHoldSurrogates(QStringView text)
-{
-    const char16_t *next = text.utf16();
-    const char16_t *const end = next + text.size();
-    std::uint64_t allBits = 0;
-    for (; end - next >= 4; next += 4) {
-        std::uint64_t characters = 0;
-        std::memcpy(&characters, next, sizeof characters);
-        allBits |= characters;
-    }
-    for (; next != end; ++next)
-        allBits |= *next;
-    return (allBits & 0x8000800080008000U) != 0;
-}
-
-/// \a text with a question mark in place of each surrogate that is none of a pair. QString::toUtf8() leaves it out in
-/// some versions.
+/// \a text with a question mark in place of each surrogate that is none of a pair. QString::toUtf8() writes one itself
+/// in some versions, and leaves the surrogate out in others.
 QString withLoneSurrogatesReplaced(const QString &text)
 {
     QString result = text;
@@ -188,7 +213,8 @@ QString withLoneSurrogatesReplaced(const QString &text)
 
 QByteArray toUtf8(const QString &text)
 {
-    if (mayHoldSurrogates(text) && !text.isValidUtf16())
+    const bool leavesSurrogatesOut = QStringView(u"\xD800").toUtf8() != "?";
+    if (leavesSurrogatesOut && !text.isValidUtf16())
         return withLoneSurrogatesReplaced(text).toUtf8();
     return text.toUtf8();
 }

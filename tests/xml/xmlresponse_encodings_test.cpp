@@ -117,8 +117,13 @@ TEST(XmlResponseEncodings, haveACharacterForAByteThatIsNoneOfTheirs)
     if (!QStringDecoder("GB2312").isValid())
         GTEST_SKIP() << "This Qt was built without ICU and knows few encodings.";
     const EncodingRow rows[] = {
-        {"US-ASCII", "x\x80", u"x\uFFFD"}, {"windows-1253", "x\xD2", u"x\uFFFD"}, {"GB2312", "x\xFF", u"x\u001A"},
-        {"EUC-JP", "x\xFF", u"x\u001A"},   {"Shift_JIS", "x\xFD", u"x\u001A"},
+        {"US-ASCII", "x\x80", u"x\uFFFD"},
+        {"GB18030", "\x80|\x81\x80\x80|\x81\x30\x80|\x81\x30\x81\x80|\x81\x7F\x80|\xA2\xE3",
+         u"\uFFFD|\u4E90\uFFFD|\uFFFD0\uFFFD|\uFFFD0\u4E90|\uFFFD\u007F\uFFFD|\u20AC"},
+        {"windows-1253", "x\xD2", u"x\uFFFD"},
+        {"GB2312", "x\xFF", u"x\u001A"},
+        {"EUC-JP", "x\xFF", u"x\u001A"},
+        {"Shift_JIS", "x\xFD", u"x\u001A"},
     };
     for (const auto &[name, bytes, text] : rows) {
         XmlResponse response("<?xml version='1.0' encoding='" + QByteArray(name) + "'?><a>" + bytes + "</a>", "");
