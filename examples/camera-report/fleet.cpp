@@ -47,7 +47,7 @@ void Fleet::start(const QString &address)
     const auto run = m_running.emplace(m_running.end());
     run->patience = std::make_unique<QTimer>();
     run->patience->setSingleShot(true);
-    connect(run->patience.get(), &QTimer::timeout, this, [this] { startMore(); });
+    connect(run->patience.get(), &QTimer::timeout, this, [this] { m_next.start(); });
     run->patience->start(patience);
     // Each request says that the one before was answered.
     const auto progress = [this, timer = run->patience.get()](const QString &line) {

@@ -4,40 +4,45 @@
 
 namespace client {
 
-Given::Given(const vorn::XmlResponse &response, const vorn::XmlResponseNode &node)
-    : m_response(response)
-    , m_node(node)
-    , m_name('/' + node.name)
+Given::Given(vorn::XmlElementView entry)
+    : m_entry(entry)
 {
 }
 
-QString Given::text(const char *path)
+QString Given::text(const char *path) const
 {
-    return m_response.getText(m_node, m_name + path);
+    return m_entry.at(path).text();
 }
 
 QString Given::attribute(const char *attribute) const
 {
-    const QString name = attribute;
-    return m_node.element.hasAttribute(name) ? m_node.element.attribute(name) : QString();
+    return m_entry.attribute(attribute);
 }
 
-std::optional<int> Given::number(const char *path, int value)
+std::optional<int> Given::number(const char *path, int value) const
 {
     bool isNumber = false;
     text(path).trimmed().toInt(&isNumber);
     return isNumber ? std::optional<int>(value) : std::nullopt;
 }
 
-std::optional<bool> Given::flag(const char *path)
+std::optional<bool> Given::flag(const char *path) const
 {
     return flagOf(text(path));
 }
 
-bool Given::isOneOf(const char *path, std::initializer_list<const char *> known)
+bool Given::isOneOf(const char *path, std::initializer_list<const char *> known) const
 {
     const QString value = text(path);
     return std::any_of(known.begin(), known.end(), [&](const char *candidate) { return value == candidate; });
+}
+
+std::vector<vorn::XmlElementView> entriesAt(const vorn::XmlResponse &response, const char *path, qsizetype count)
+{
+    const vorn::XmlElementViews views = response.viewAll(path);
+    std::vector<vorn::XmlElementView> entries(views.begin(), views.end());
+    entries.resize(static_cast<std::size_t>(count));
+    return entries;
 }
 
 std::optional<bool> flagOf(const QString &text)

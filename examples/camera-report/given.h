@@ -6,6 +6,7 @@
 
 #include <initializer_list>
 #include <optional>
+#include <vector>
 
 namespace client {
 
@@ -14,29 +15,30 @@ namespace client {
 class Given
 {
 public:
-    /// The entry \a node of \a response.
-    Given(const vorn::XmlResponse &response, const vorn::XmlResponseNode &node);
+    /// \a entry has to stay as long.
+    explicit Given(vorn::XmlElementView entry);
 
     /// The text at \a path below the entry; null if it is not there.
-    QString text(const char *path);
+    QString text(const char *path) const;
 
     /// The value of the entry's own \a attribute; null if it is not there.
     QString attribute(const char *attribute) const;
 
     /// \a value, if the entry has a number at \a path.
-    std::optional<int> number(const char *path, int value);
+    std::optional<int> number(const char *path, int value) const;
 
     /// The boolean at \a path, in each of the forms that XML Schema has.
-    std::optional<bool> flag(const char *path);
+    std::optional<bool> flag(const char *path) const;
 
     /// Whether the text at \a path is one of \a known.
-    bool isOneOf(const char *path, std::initializer_list<const char *> known);
+    bool isOneOf(const char *path, std::initializer_list<const char *> known) const;
 
 private:
-    vorn::XmlResponse m_response;
-    vorn::XmlResponseNode m_node;
-    QString m_name; ///< that of the node, with a slash
+    vorn::XmlElementView m_entry;
 };
+
+/// The elements at \a path in \a response, of which a list has \a count records.
+std::vector<vorn::XmlElementView> entriesAt(const vorn::XmlResponse &response, const char *path, qsizetype count);
 
 /// The boolean that \a text stands for in XML Schema; nothing if it is none.
 std::optional<bool> flagOf(const QString &text);

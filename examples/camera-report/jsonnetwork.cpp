@@ -7,7 +7,7 @@ namespace {
 using Interface = vorn::OnvifNetworkInterface;
 
 /// The text at \a path, if it is one of \a known.
-QJsonValue wordIn(Given &given, const char *path, std::initializer_list<const char *> known)
+QJsonValue wordIn(const Given &given, const char *path, std::initializer_list<const char *> known)
 {
     return given.isOneOf(path, known) ? QJsonValue(given.text(path)) : QJsonValue();
 }
@@ -31,7 +31,7 @@ QJsonArray jsonOf(const QList<Interface::PrefixedAddress> &addresses)
     return array;
 }
 
-QJsonValue linkJson(const Interface::LinkSettings &settings, const QByteArray &path, Given &given)
+QJsonValue linkJson(const Interface::LinkSettings &settings, const QByteArray &path, const Given &given)
 {
     if (!settings.present)
         return {};
@@ -43,7 +43,7 @@ QJsonValue linkJson(const Interface::LinkSettings &settings, const QByteArray &p
                        {"duplex", wordIn(given, duplex.constData(), {"Full", "Half"})}};
 }
 
-QJsonValue jsonOf(const Interface::IPv4 &ipv4, Given &given)
+QJsonValue jsonOf(const Interface::IPv4 &ipv4, const Given &given)
 {
     if (given.text("/IPv4").isNull())
         return {};
@@ -54,7 +54,7 @@ QJsonValue jsonOf(const Interface::IPv4 &ipv4, Given &given)
                        {"fromDHCP", jsonOf(ipv4.config.fromDHCP)}};
 }
 
-QJsonValue jsonOf(const Interface::IPv6 &ipv6, Given &given)
+QJsonValue jsonOf(const Interface::IPv6 &ipv6, const Given &given)
 {
     if (given.text("/IPv6").isNull())
         return {};
@@ -67,7 +67,7 @@ QJsonValue jsonOf(const Interface::IPv6 &ipv6, Given &given)
                        {"fromRA", jsonOf(ipv6.config.fromRA)}};
 }
 
-QJsonObject jsonOf(const Interface &card, Given given)
+QJsonObject jsonOf(const Interface &card, const Given &given)
 {
     return {{"name", orNull(card.name)},
             {"token", orNull(card.token)},
@@ -85,24 +85,24 @@ QJsonObject jsonOf(const Interface &card, Given given)
 
 QJsonArray interfacesJson(const vorn::OnvifNetworkInterfaceVector &interfaces)
 {
-    vorn::XmlResponse response = interfaces.response; // queries are not const
-    const QList<vorn::XmlResponseNode> nodes = response.getAll("/NetworkInterfaces");
+    const auto entries = entriesAt(interfaces.response, "/NetworkInterfaces", interfaces.size());
+    auto entry = entries.begin();
     QJsonArray array;
-    for (qsizetype index = 0; index < interfaces.size(); ++index)
-        array.append(jsonOf(interfaces[index], Given(response, nodes.value(index))));
+    for (const Interface &card : interfaces)
+        array.append(jsonOf(card, Given(*entry++)));
     return array;
 }
 
 QJsonArray relaysJson(const vorn::OnvifRelayOutputVector &relays)
 {
-    vorn::XmlResponse response = relays.response;
-    const QList<vorn::XmlResponseNode> nodes = response.getAll("/RelayOutputs");
+    const auto entries = entriesAt(relays.response, "/RelayOutputs", relays.size());
+    auto entry = entries.begin();
     QJsonArray array;
-    for (qsizetype index = 0; index < relays.size(); ++index) {
-        Given given(response, nodes.value(index));
-        array.append(QJsonObject{{"token", orNull(relays[index].token)},
+    for (const vorn::OnvifRelayOutput &relay : relays) {
+        const Given given(*entry++);
+        array.append(QJsonObject{{"token", orNull(relay.token)},
                                  {"mode", wordIn(given, "/Properties/Mode", {"Monostable", "Bistable"})},
-                                 {"delayTime", orNull(relays[index].delayTime)},
+                                 {"delayTime", orNull(relay.delayTime)},
                                  {"idleState", wordIn(given, "/Properties/IdleState", {"open", "closed"})}});
     }
     return array;

@@ -1,8 +1,6 @@
 #include "given.h"
 #include "jsonparts.h"
 
-#include <QtCore/QList>
-
 namespace client {
 namespace {
 
@@ -13,7 +11,7 @@ QJsonObject start(const Configuration &configuration)
     return {{"name", orNull(configuration.name)}, {"token", orNull(configuration.token)}};
 }
 
-QJsonValue jsonOf(const vorn::OnvifVideoSourceConfiguration &source, Given &given)
+QJsonValue jsonOf(const vorn::OnvifVideoSourceConfiguration &source, const Given &given)
 {
     if (source.isNull())
         return {};
@@ -28,7 +26,7 @@ QJsonValue jsonOf(const vorn::OnvifVideoSourceConfiguration &source, Given &give
     return json;
 }
 
-QJsonValue jsonOf(const vorn::OnvifVideoEncoderConfiguration &video, Given &given)
+QJsonValue jsonOf(const vorn::OnvifVideoEncoderConfiguration &video, const Given &given)
 {
     if (video.isNull())
         return {};
@@ -50,7 +48,7 @@ QJsonValue jsonOf(const vorn::OnvifVideoEncoderConfiguration &video, Given &give
     return json;
 }
 
-QJsonValue jsonOf(const vorn::OnvifAudioSourceConfiguration &source, Given &given)
+QJsonValue jsonOf(const vorn::OnvifAudioSourceConfiguration &source, const Given &given)
 {
     if (source.isNull())
         return {};
@@ -60,7 +58,7 @@ QJsonValue jsonOf(const vorn::OnvifAudioSourceConfiguration &source, Given &give
     return json;
 }
 
-QJsonValue jsonOf(const vorn::OnvifAudioEncoderConfiguration &audio, Given &given)
+QJsonValue jsonOf(const vorn::OnvifAudioEncoderConfiguration &audio, const Given &given)
 {
     if (audio.isNull())
         return {};
@@ -83,7 +81,7 @@ QJsonValue jsonOf(const vorn::OnvifAudioOutputConfiguration &output)
     return json;
 }
 
-QJsonValue jsonOf(const vorn::OnvifPtzConfiguration &ptz, Given &given)
+QJsonValue jsonOf(const vorn::OnvifPtzConfiguration &ptz, const Given &given)
 {
     if (ptz.isNull())
         return {};
@@ -104,7 +102,7 @@ QJsonArray partsJson(const List &parts)
     return array;
 }
 
-QJsonValue jsonOf(const vorn::OnvifVideoAnalyticsConfiguration &analytics, Given &given)
+QJsonValue jsonOf(const vorn::OnvifVideoAnalyticsConfiguration &analytics, const Given &given)
 {
     if (analytics.isNull())
         return {};
@@ -116,7 +114,7 @@ QJsonValue jsonOf(const vorn::OnvifVideoAnalyticsConfiguration &analytics, Given
     return json;
 }
 
-QJsonValue jsonOf(const vorn::OnvifMetadataConfiguration &metadata, Given &given)
+QJsonValue jsonOf(const vorn::OnvifMetadataConfiguration &metadata, const Given &given)
 {
     if (metadata.isNull())
         return {};
@@ -133,7 +131,7 @@ QJsonValue uriJson(const Section<QString> &uri)
     return sectionJson(uri, [](const QString &text) { return QJsonValue(text); });
 }
 
-QJsonObject jsonOf(const vorn::OnvifProfile &profile, const ProfileUris &uris, Given given)
+QJsonObject jsonOf(const vorn::OnvifProfile &profile, const ProfileUris &uris, const Given &given)
 {
     return {{"name", orNull(profile.name)},
             {"token", orNull(profile.token)},
@@ -156,13 +154,12 @@ QJsonObject jsonOf(const vorn::OnvifProfile &profile, const ProfileUris &uris, G
 QJsonArray profilesJson(const Report &report)
 {
     const vorn::OnvifProfileVector &profiles = *report.profiles.record;
-    vorn::XmlResponse response = profiles.response; // queries are not const
-    const QList<vorn::XmlResponseNode> nodes = response.getAll("/Profiles");
+    const auto entries = entriesAt(profiles.response, "/Profiles", profiles.size());
+    auto entry = entries.begin();
+    auto uris = report.uris.begin();
     QJsonArray array;
-    for (qsizetype index = 0; index < profiles.size(); ++index) {
-        array.append(jsonOf(profiles[index], report.uris.at(static_cast<std::size_t>(index)),
-                            Given(response, nodes.value(index))));
-    }
+    for (const vorn::OnvifProfile &profile : profiles)
+        array.append(jsonOf(profile, *uris++, Given(*entry++)));
     return array;
 }
 

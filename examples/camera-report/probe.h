@@ -46,8 +46,8 @@ public:
     using Found = std::function<void(const FoundCamera &)>;
     using Done = std::function<void(const SearchResult &)>;
 
-    /// Waits for answers for all of \a duration, unless no more can be taken note of. Calls \a found for each camera when it answers for the first time,
-    /// and \a done at the end.
+    /// Waits for answers for all of \a duration, unless no more can be taken note of. Calls \a found for each camera
+    /// when it answers for the first time, and \a done at the end.
     Probe(const ProbeTarget &target, std::chrono::milliseconds duration, Found found, Done done);
 
     /// Sends the probe. Returns one sentence if that fails, and then \a done is not called.

@@ -26,7 +26,7 @@ QStringList texts(const QList<Interface::PrefixedAddress> &addresses, const QStr
 
 // Whether something is on is asked of the reply: the record takes what is missing for off.
 
-QString ipv4Text(const Interface::IPv4 &ipv4, Given &given)
+QString ipv4Text(const Interface::IPv4 &ipv4, const Given &given)
 {
     if (given.flag("/IPv4/Enabled") == false)
         return "off";
@@ -37,7 +37,7 @@ QString ipv4Text(const Interface::IPv4 &ipv4, Given &given)
     return parts.join(", ");
 }
 
-QString ipv6Text(const Interface::IPv6 &ipv6, Given &given)
+QString ipv6Text(const Interface::IPv6 &ipv6, const Given &given)
 {
     if (given.flag("/IPv6/Enabled") == false)
         return "off";
@@ -48,14 +48,14 @@ QString ipv6Text(const Interface::IPv6 &ipv6, Given &given)
     return parts.join(", ");
 }
 
-QString linkText(const Interface::LinkSettings &settings, Given &given)
+QString linkText(const Interface::LinkSettings &settings, const Given &given)
 {
     const bool saysDuplex = given.isOneOf("/Link/OperSettings/Duplex", {"Full", "Half"});
     return joined(
         {amount(settings.speed, "Mbit/s"), saysDuplex ? vPrintable(settings.duplex).toLower() + " duplex" : QString()});
 }
 
-void write(Lines &lines, const Interface &card, Given given)
+void write(Lines &lines, const Interface &card, const Given &given)
 {
     const bool isOff = given.flag("/Enabled") == false;
     const QString name = withToken(card.name, card.token);
@@ -72,10 +72,10 @@ void write(Lines &lines, const Interface &card, Given given)
 void write(Lines &lines, const vorn::OnvifNetworkInterfaceVector &interfaces)
 {
     lines.heading("Network interfaces", interfaces.isEmpty());
-    vorn::XmlResponse response = interfaces.response; // queries are not const
-    const QList<vorn::XmlResponseNode> nodes = response.getAll("/NetworkInterfaces");
-    for (qsizetype index = 0; index < interfaces.size(); ++index)
-        write(lines, interfaces[index], Given(response, nodes.value(index)));
+    const auto entries = entriesAt(interfaces.response, "/NetworkInterfaces", interfaces.size());
+    auto entry = entries.begin();
+    for (const Interface &card : interfaces)
+        write(lines, card, Given(*entry++));
 }
 
 void write(Lines &lines, const vorn::OnvifNetworkGateway &gateway)
@@ -88,11 +88,10 @@ void write(Lines &lines, const vorn::OnvifNetworkGateway &gateway)
 void write(Lines &lines, const vorn::OnvifRelayOutputVector &relays)
 {
     lines.heading("Relay outputs", relays.isEmpty());
-    vorn::XmlResponse response = relays.response;
-    const QList<vorn::XmlResponseNode> nodes = response.getAll("/RelayOutputs");
-    for (qsizetype index = 0; index < relays.size(); ++index) {
-        const vorn::OnvifRelayOutput &relay = relays[index];
-        Given given(response, nodes.value(index));
+    const auto entries = entriesAt(relays.response, "/RelayOutputs", relays.size());
+    auto entry = entries.begin();
+    for (const vorn::OnvifRelayOutput &relay : relays) {
+        const Given given(*entry++);
         const bool saysMode = given.isOneOf("/Properties/Mode", {"Monostable", "Bistable"});
         const bool saysState = given.isOneOf("/Properties/IdleState", {"open", "closed"});
         const bool fallsBack = relay.mode == vorn::OnvifRelayOutput::Monostable && !relay.delayTime.isEmpty();

@@ -61,9 +61,13 @@ void Device::serve(QTcpSocket *socket)
         const bool isHttp = first >= 'A' && first <= 'Z'; // which the handshake of TLS, for example, is not
         if (!isHttp)
             return socket->disconnectFromHost();
-        const auto request = httpRequestIn(socket->peek(longestRequest));
-        if (!request)
+        const QByteArray bytes = socket->peek(longestRequest);
+        const auto request = httpRequestIn(bytes);
+        if (!request) {
+            if (wantsToContinue(bytes))
+                socket->write("HTTP/1.1 100 Continue\r\n\r\n");
             return;
+        }
         socket->disconnect(this); // one request for each connection
         answer(socket, *request);
     });

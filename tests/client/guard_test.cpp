@@ -102,4 +102,30 @@ TEST(Token, needsANonceAndATime)
     EXPECT_EQ(statusOf(replyTo(device.address(), without)), 400);
 }
 
+TEST(Request, canComeInChunks)
+{
+    const SimulatedDevice device({samples("short-prefixes")});
+    const QByteArray reply =
+        replyTo(device.address(), "POST / HTTP/1.1\r\nHost: device\r\nTransfer-Encoding: chunked\r\n\r\n"
+                                  "A;x=y\r\n<Envelope>\r\n6\r\n<Body>\r\n1e\r\n<GetScopes/></Body></Envelope>\r\n"
+                                  "0\r\n\r\n");
+    EXPECT_EQ(statusOf(reply), 200) << reply.toStdString();
+    EXPECT_TRUE(reply.contains("GetScopesResponse"));
+}
+
+TEST(Request, canWaitForLeaveToContinue)
+{
+    const SimulatedDevice device({samples("short-prefixes")});
+    QTcpSocket socket;
+    socket.connectToHost("127.0.0.1", static_cast<quint16>(device.address().section(':', 1).toUInt()));
+    socket.write("POST / HTTP/1.1\r\nHost: device\r\nExpect: 100-continue\r\nContent-Length: "
+                 + QByteArray::number(getScopes.size()) + "\r\n\r\n");
+    ASSERT_TRUE(socket.waitForReadyRead(test::patience));
+    EXPECT_EQ(socket.readAll(), "HTTP/1.1 100 Continue\r\n\r\n");
+    socket.write(getScopes);
+    while (socket.waitForReadyRead(test::patience)) {
+    }
+    EXPECT_TRUE(socket.readAll().contains("GetScopesResponse"));
+}
+
 } // namespace

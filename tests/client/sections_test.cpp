@@ -169,8 +169,7 @@ TEST(Sections, sayWhyThereIsNothingInAnyOfThem)
 TEST(Sections, areNotThereWhereARequestIsPrinted)
 {
     const SimulatedDevice device({samples("short-prefixes")});
-    const Result result =
-        report(device, {"--address", "{address}", "--timeout", "60", "--json", "--set-dhcp", "eth0"});
+    const Result result = report(device, {"--address", "{address}", "--timeout", "60", "--json", "--set-dhcp", "eth0"});
     const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
     EXPECT_EQ(json.keys(), (QStringList{"address", "request"}));
 }

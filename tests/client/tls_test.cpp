@@ -4,6 +4,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QRegularExpression>
+#include <QtNetwork/QSslSocket>
 
 namespace {
 
@@ -18,6 +19,8 @@ class OverTls : public testing::Test
 protected:
     void SetUp() override
     {
+        if (!QSslSocket::supportsSsl())
+            GTEST_SKIP() << "Qt has no TLS on this system.";
         QFile file(m_folder.filePath("password"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("simulated\n");
