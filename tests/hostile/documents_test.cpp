@@ -15,9 +15,11 @@
 #include <algorithm>
 #include <cctype>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <sys/resource.h>
 
 namespace hostile {
@@ -119,13 +121,27 @@ TEST_P(HostileDocument, isReadByAllRecordsInProportionToItsSize)
     expectProportion([&] { hostile::readAll(small); }, [&] { hostile::readAll(large); });
 }
 
-// For the bound that SECURITY.md states. What every reply takes, and what is made only once, has a bound of its own.
-TEST_P(HostileDocument, takesNoMoreThanThreeHundredTimesItsSize)
+/// What SECURITY.md says that a reader takes for a byte of \a document, at most.
+std::size_t boundFor(const hostile::Reader &reader, const Document &document)
+{
+    if (std::string_view(reader.name) == "XmlResponse") // with nodes for all that the reply holds
+        return 300;
+    // Here each element makes a record, which is larger than what it is read from.
+    constexpr std::string_view ofRecords[] = {"empty profiles", "empty profiles with an attribute",
+                                              "answers of one profile"};
+    const bool isOfRecords =
+        std::find(std::begin(ofRecords), std::end(ofRecords), document.name) != std::end(ofRecords);
+    return isOfRecords ? 140 : 30;
+}
+
+// What every reply takes, and what is made only once, has a bound of its own.
+TEST_P(HostileDocument, takesNoMoreMemoryThanIsSaid)
 {
     const QByteArray reply = GetParam().make(GetParam().count / scale / 10);
-    const std::size_t most = 300 * static_cast<std::size_t>(reply.size()) + 64 * 1024;
-    for (const hostile::Reader &reader : hostile::readers())
+    for (const hostile::Reader &reader : hostile::readers()) {
+        const std::size_t most = boundFor(reader, GetParam()) * static_cast<std::size_t>(reply.size()) + 64 * 1024;
         EXPECT_LE(hostile::costOf([&] { reader.read(reply); }).peakBytes, most) << reader.name;
+    }
 }
 
 TEST_P(HostileDocument, isReadOnTheStackOfASmallThread)
