@@ -50,12 +50,13 @@ QJsonValue jsonOf(const vorn::OnvifVideoEncoderConfiguration &video, Given &give
     return json;
 }
 
-QJsonValue jsonOf(const vorn::OnvifAudioSourceConfiguration &source)
+QJsonValue jsonOf(const vorn::OnvifAudioSourceConfiguration &source, Given &given)
 {
     if (source.isNull())
         return {};
     QJsonObject json = start(source);
     json["sourceToken"] = orNull(source.sourceToken);
+    json["useCount"] = orNull(given.number("/AudioSourceConfiguration/UseCount", source.useCount));
     return json;
 }
 
@@ -68,6 +69,7 @@ QJsonValue jsonOf(const vorn::OnvifAudioEncoderConfiguration &audio, Given &give
     json["bitrate"] = orNull(given.number("/AudioEncoderConfiguration/Bitrate", audio.bitrate));
     json["sampleRate"] = orNull(given.number("/AudioEncoderConfiguration/SampleRate", audio.sampleRate));
     json["sessionTimeout"] = orNull(audio.sessionTimeout);
+    json["useCount"] = orNull(given.number("/AudioEncoderConfiguration/UseCount", audio.useCount));
     return json;
 }
 
@@ -77,16 +79,18 @@ QJsonValue jsonOf(const vorn::OnvifAudioOutputConfiguration &output)
         return {};
     QJsonObject json = start(output);
     json["outputToken"] = orNull(output.outputToken);
+    json["sendPrimacy"] = orNull(output.sendPrimacy);
     return json;
 }
 
-QJsonValue jsonOf(const vorn::OnvifPtzConfiguration &ptz)
+QJsonValue jsonOf(const vorn::OnvifPtzConfiguration &ptz, Given &given)
 {
     if (ptz.isNull())
         return {};
     QJsonObject json = start(ptz);
     json["nodeToken"] = orNull(ptz.nodeToken);
     json["defaultPtzTimeout"] = orNull(ptz.defaultPtzTimeout);
+    json["useCount"] = orNull(given.number("/PTZConfiguration/UseCount", ptz.useCount));
     return json;
 }
 
@@ -100,11 +104,13 @@ QJsonArray partsJson(const List &parts)
     return array;
 }
 
-QJsonValue jsonOf(const vorn::OnvifVideoAnalyticsConfiguration &analytics)
+QJsonValue jsonOf(const vorn::OnvifVideoAnalyticsConfiguration &analytics, Given &given)
 {
     if (analytics.isNull())
         return {};
     QJsonObject json = start(analytics);
+    json["useCount"] =
+        orNull(given.number("/VideoAnalyticsConfiguration/UseCount", static_cast<int>(analytics.useCount)));
     json["modules"] = partsJson(analytics.analyticsEngineConfiguration);
     json["rules"] = partsJson(analytics.ruleEngineConfiguration);
     return json;
@@ -115,6 +121,7 @@ QJsonValue jsonOf(const vorn::OnvifMetadataConfiguration &metadata, Given &given
     if (metadata.isNull())
         return {};
     QJsonObject json = start(metadata);
+    json["useCount"] = orNull(given.number("/MetadataConfiguration/UseCount", static_cast<int>(metadata.useCount)));
     json["analytics"] = orNull(given.flag("/MetadataConfiguration/Analytics"));
     json["ptzStatus"] = orNull(given.flag("/MetadataConfiguration/PTZStatus/Status"));
     json["ptzPosition"] = orNull(given.flag("/MetadataConfiguration/PTZStatus/Position"));
@@ -133,11 +140,11 @@ QJsonObject jsonOf(const vorn::OnvifProfile &profile, const ProfileUris &uris, G
             {"fixed", orNull(flagOf(given.attribute("fixed")))},
             {"videoSource", jsonOf(profile.videoSource, given)},
             {"videoEncoder", jsonOf(profile.videoEncoder, given)},
-            {"audioSource", jsonOf(profile.audioSource)},
+            {"audioSource", jsonOf(profile.audioSource, given)},
             {"audioEncoder", jsonOf(profile.audioEncoder, given)},
             {"audioOutput", jsonOf(profile.audioOutput)},
-            {"ptz", jsonOf(profile.ptz)},
-            {"videoAnalytics", jsonOf(profile.videoAnalytics)},
+            {"ptz", jsonOf(profile.ptz, given)},
+            {"videoAnalytics", jsonOf(profile.videoAnalytics, given)},
             {"metadata", jsonOf(profile.metadata, given)},
             {"streamOverUdp", uriJson(uris.streamOverUdp)},
             {"streamOverTcp", uriJson(uris.streamOverTcp)},

@@ -1,5 +1,6 @@
 #include "printer.h"
 
+#include "jsonparts.h"
 #include "support/terminal.h"
 
 #include <QtCore/QJsonArray>
@@ -12,8 +13,8 @@ QJsonObject jsonOf(const FoundCamera &found)
 {
     return {{"sender", found.sender.toString()},
             {"addresses", QJsonArray::fromStringList(found.addresses)},
-            {"name", found.name},
-            {"hardware", found.hardware},
+            {"name", orNull(found.name)},
+            {"hardware", orNull(found.hardware)},
             {"types", QJsonArray::fromStringList(found.types)}};
 }
 

@@ -2,29 +2,41 @@
 
 #include "readchildren.h"
 
+#include <QtCore/QVarLengthArray>
+
+#include <initializer_list>
 #include <iterator>
+#include <utility>
 
 namespace vorn {
 
-/// Appends to the list record \a list what \a make makes of each element that its reply holds at \a childPath, in
-/// document order.
+/// Fills the list record \a list, which is empty, with what \a make makes of each element that its reply holds at one
+/// of \a childPaths: path for path, in document order.
 ///
 /// A record is made first and then appended, not built in its place: what it loses when it is copied or moved, it loses
 /// on its way into a list too.
 template <typename List, typename Make>
-void appendElements(List &list, const QString &childPath, const Make &make)
+void readElements(List &list, std::initializer_list<QString> childPaths, const Make &make)
 {
-    const auto elements = elementsAt(list.response, childPath);
-    list.reserve(list.size() + std::distance(elements.begin(), elements.end()));
-    for (const RecordElement element : elements)
-        list.append(make(element));
+    QVarLengthArray<decltype(elementsAt(list.response, QString())), 2> found;
+    qsizetype count = 0;
+    for (const QString &childPath : childPaths) {
+        found.append(elementsAt(list.response, childPath));
+        count += std::distance(found.last().begin(), found.last().end());
+    }
+    list.reserve(count); // of a list that holds something, Qt would not notice that memory has run out
+    for (const auto &elements : std::as_const(found)) {
+        for (const RecordElement element : elements)
+            list.append(make(element));
+    }
 }
 
-/// Appends to the list record \a list one record for each element that its reply holds at \a childPath.
+/// Fills the list record \a list, which is empty, with one record for each element that its reply holds at one of
+/// \a childPaths.
 template <typename List>
-void appendElements(List &list, const QString &childPath)
+void readElements(List &list, std::initializer_list<QString> childPaths)
 {
-    appendElements(list, childPath, recordFrom<typename List::value_type>);
+    readElements(list, childPaths, recordFrom<typename List::value_type>);
 }
 
 /// Replaces what \a list holds by one record for each child of \a element that is called \a name.

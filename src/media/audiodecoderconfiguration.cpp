@@ -48,7 +48,7 @@ OnvifAudioDecoderConfigurationVector::OnvifAudioDecoderConfigurationVector() = d
 OnvifAudioDecoderConfigurationVector::OnvifAudioDecoderConfigurationVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Configurations"_s);
+    readElements(*this, {u"/Configurations"_s});
 }
 
 OnvifAudioDecoderConfigurationVector::OnvifAudioDecoderConfigurationVector(

@@ -50,7 +50,7 @@ OnvifAudioEncoderConfigurationVector::OnvifAudioEncoderConfigurationVector() = d
 OnvifAudioEncoderConfigurationVector::OnvifAudioEncoderConfigurationVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Configurations"_s);
+    readElements(*this, {u"/Configurations"_s});
 }
 
 OnvifAudioEncoderConfigurationVector::OnvifAudioEncoderConfigurationVector(

@@ -49,8 +49,7 @@ OnvifAudioOutputConfigurationVector::OnvifAudioOutputConfigurationVector() = def
 OnvifAudioOutputConfigurationVector::OnvifAudioOutputConfigurationVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Configurations"_s);
-    appendElements(*this, u"/Options"_s);
+    readElements(*this, {u"/Configurations"_s, u"/Options"_s});
 }
 
 OnvifAudioOutputConfigurationVector::OnvifAudioOutputConfigurationVector(

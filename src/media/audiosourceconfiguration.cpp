@@ -47,7 +47,7 @@ OnvifAudioSourceConfigurationVector::OnvifAudioSourceConfigurationVector() = def
 OnvifAudioSourceConfigurationVector::OnvifAudioSourceConfigurationVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Configurations"_s);
+    readElements(*this, {u"/Configurations"_s});
 }
 
 OnvifAudioSourceConfigurationVector::OnvifAudioSourceConfigurationVector(

@@ -71,7 +71,7 @@ OnvifMetadataConfigurationVector::OnvifMetadataConfigurationVector() = default;
 OnvifMetadataConfigurationVector::OnvifMetadataConfigurationVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Configurations"_s);
+    readElements(*this, {u"/Configurations"_s});
 }
 
 OnvifMetadataConfigurationVector::OnvifMetadataConfigurationVector(const OnvifMetadataConfigurationVector &other) =

@@ -69,7 +69,7 @@ OnvifPtzConfigurationVector::OnvifPtzConfigurationVector() = default;
 OnvifPtzConfigurationVector::OnvifPtzConfigurationVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/PTZConfiguration"_s);
+    readElements(*this, {u"/PTZConfiguration"_s});
 }
 
 OnvifPtzConfigurationVector::OnvifPtzConfigurationVector(const OnvifPtzConfigurationVector &other) = default;

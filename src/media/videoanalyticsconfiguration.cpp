@@ -50,7 +50,7 @@ OnvifVideoAnalyticsConfigurationVector::OnvifVideoAnalyticsConfigurationVector(c
                                                                                const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Configurations"_s);
+    readElements(*this, {u"/Configurations"_s});
 }
 
 OnvifVideoAnalyticsConfigurationVector::OnvifVideoAnalyticsConfigurationVector(

@@ -65,7 +65,7 @@ OnvifVideoEncoderConfigurationVector::OnvifVideoEncoderConfigurationVector() = d
 OnvifVideoEncoderConfigurationVector::OnvifVideoEncoderConfigurationVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Configurations"_s);
+    readElements(*this, {u"/Configurations"_s});
 }
 
 OnvifVideoEncoderConfigurationVector::OnvifVideoEncoderConfigurationVector(

@@ -61,7 +61,7 @@ OnvifVideoSourceConfigurationVector::OnvifVideoSourceConfigurationVector() = def
 OnvifVideoSourceConfigurationVector::OnvifVideoSourceConfigurationVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Configurations"_s);
+    readElements(*this, {u"/Configurations"_s});
 }
 
 OnvifVideoSourceConfigurationVector::OnvifVideoSourceConfigurationVector(

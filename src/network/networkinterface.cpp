@@ -179,7 +179,7 @@ OnvifNetworkInterfaceVector::OnvifNetworkInterfaceVector() = default;
 OnvifNetworkInterfaceVector::OnvifNetworkInterfaceVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/NetworkInterfaces"_s);
+    readElements(*this, {u"/NetworkInterfaces"_s});
 }
 
 OnvifNetworkInterfaceVector::OnvifNetworkInterfaceVector(const OnvifNetworkInterfaceVector &other) = default;

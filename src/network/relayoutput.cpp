@@ -84,7 +84,7 @@ OnvifRelayOutputVector::OnvifRelayOutputVector() = default;
 OnvifRelayOutputVector::OnvifRelayOutputVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/RelayOutputs"_s);
+    readElements(*this, {u"/RelayOutputs"_s});
 }
 
 OnvifRelayOutputVector::OnvifRelayOutputVector(const OnvifRelayOutputVector &other) = default;

@@ -52,7 +52,7 @@ OnvifProfileVector::OnvifProfileVector() = default;
 OnvifProfileVector::OnvifProfileVector(const QByteArray &bytes, const QString &root)
     : OnvifResponseStructure(bytes, root)
 {
-    appendElements(*this, u"/Profiles"_s, profileFrom);
+    readElements(*this, {u"/Profiles"_s}, profileFrom);
 }
 
 OnvifProfileVector::OnvifProfileVector(const OnvifProfileVector &other) = default;

@@ -123,6 +123,18 @@ void replacePrivateCharactersOfGb18030(QString &text)
     }
 }
 
+/// The decoder for \a encoding, or an invalid one if Qt does not know it. Qt gives an invalid one when memory runs out
+/// too, and other values would be read: so it is asked again, unless memory is too short.
+QStringDecoder decoderFor(const QByteArray &encoding)
+{
+    QStringDecoder decoder(encoding.constData());
+    if (decoder.isValid())
+        return decoder;
+    constexpr qsizetype roomForDecoder = 65536;
+    (void)QByteArray(roomForDecoder, Qt::Uninitialized); // or std::bad_alloc
+    return QStringDecoder(encoding.constData());
+}
+
 /// Decodes by the name in the XML declaration, unless that is UTF-8 or of no use.
 std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
 {
@@ -136,7 +148,7 @@ std::optional<QString> decodedAsDeclared(const QByteArray &bytes)
         return std::nullopt;
     if (name == "locale") // Qt's name for that of the client, on which it must not depend what a reply says
         return std::nullopt;
-    QStringDecoder decoder(declared.toByteArray().constData());
+    QStringDecoder decoder = decoderFor(declared.toByteArray());
     if (!decoder.isValid())
         return std::nullopt;
     const bool isGb18030 = comparable(decoder.name()) == "gb18030"; // by whatever name

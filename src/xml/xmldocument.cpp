@@ -5,6 +5,8 @@
 #include "references.h"
 #include "xmlnames.h"
 
+#include <QtCore/QtGlobal>
+
 namespace vorn {
 namespace {
 
@@ -70,7 +72,10 @@ XmlDocument::XmlDocument(const QByteArray &bytes, const QString &root)
     if (holdsBadReferences)
         options &= ~static_cast<unsigned int>(pugi::parse_escapes);
     const auto size = static_cast<std::size_t>(reply.utf8.size());
-    const bool parsed = m_tree.load_buffer(reply.utf8.constData(), size, options, pugi::encoding_utf8);
+    const pugi::xml_parse_result parsed =
+        m_tree.load_buffer(reply.utf8.constData(), size, options, pugi::encoding_utf8);
+    if (parsed.status == pugi::status_out_of_memory) // else a fault would read as a reply without one
+        qBadAlloc();
     if (holdsBadReferences) {
         ReferenceResolver resolver;
         m_tree.traverse(resolver);

@@ -49,6 +49,28 @@ TEST_P(Styles, giveTheReportThatIsWrittenDown)
     EXPECT_EQ(result.exitCode, errors.isEmpty() ? 0 : 1);
 }
 
+TEST_P(Styles, giveTheSameSectionsAsJson)
+{
+    const SimulatedDevice device({samples(GetParam().name)});
+    const Result result = report(device, {"--address", "{address}", "--timeout", "60", "--json"});
+    const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
+    const std::pair<const char *, const char *> rows[] = {
+        {"GetDeviceInformation", "information"},
+        {"GetCapabilities", "services"},
+        {"GetCapabilities", "versions"},
+        {"GetScopes", "scopes"},
+        {"GetProfiles", "profiles"},
+        {"GetNetworkInterfaces", "interfaces"},
+        {"GetNetworkDefaultGateway", "gateway"},
+        {"GetRelayOutputs", "relays"},
+    };
+    for (const auto &[request, section] : rows) {
+        const bool isAnswered = !GetParam().notAnswered.contains(request);
+        EXPECT_NE(json[QLatin1String(section)].toObject().contains("notAnswered"), isAnswered) << section;
+    }
+    EXPECT_EQ(json["failures"].toArray().size(), GetParam().notAnswered.size());
+}
+
 INSTANTIATE_TEST_SUITE_P(Report, Styles,
                          testing::Values(Style{"short-prefixes", {}}, Style{"many-namespaces", {}},
                                          Style{"no-prefixes",
@@ -80,6 +102,16 @@ TEST(Report, isPrintedAsJson)
     EXPECT_EQ(json["interfaces"][0]["ipv4"]["manual"][1]["address"].toString(), "192.0.2.200");
     EXPECT_EQ(json["gateway"]["ipv4Address"].toString(), "203.0.113.1");
     EXPECT_EQ(json["relays"][1]["delayTime"].toString(), "PT30S");
+    EXPECT_EQ(json["versions"].toArray(), (QJsonArray{"2.40", "2.20", "1.2"}));
+    EXPECT_EQ(json["profiles"][0]["videoSource"]["sourceToken"].toString(), "vs_1");
+    EXPECT_EQ(json["profiles"][0]["ptz"]["token"].toString(), "ptz_1");
+    EXPECT_EQ(json["profiles"][0]["videoAnalytics"]["token"].toString(), "vac_1");
+    EXPECT_EQ(json["profiles"][0]["metadata"]["token"].toString(), "mc_1");
+    EXPECT_EQ(json["profiles"][1]["streamOverTcp"].toString(), "rtsp://127.0.0.1:554/profile_2?transport=RTSP");
+    const QJsonObject link{{"autoNegotiation", true}, {"speed", 10}, {"duplex", "Half"}};
+    EXPECT_EQ(json["interfaces"][0]["operSettings"].toObject(), link);
+    EXPECT_EQ(json["clock"]["zone"].toString(), "UTC0");
+    EXPECT_EQ(json["clock"]["secondsAhead"].toInt(-1), 0);
 
     EXPECT_EQ(json["scopes"].toObject(), (QJsonObject{{"notAnswered", json["failures"][0]["sentence"]}}));
     EXPECT_EQ(json["failures"].toArray().size(), 1);

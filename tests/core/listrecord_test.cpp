@@ -39,11 +39,11 @@ struct ElementVector : QList<Element>, OnvifResponseStructure
     ElementVector(const QByteArray &bytes, const QString &root)
         : OnvifResponseStructure(bytes, root)
     {
-        vorn::appendElements(*this, QStringLiteral("/Item"));
+        vorn::readElements(*this, {QStringLiteral("/Item"), QStringLiteral("/Options")});
     }
 };
 
-TEST(AppendElements, takesEachMatchInDocumentOrder)
+TEST(ReadElements, takesEachMatchInDocumentOrder)
 {
     const ElementVector list("<r><Item>1</Item><Other/><x:Item>2</x:Item></r>", "/r");
     ASSERT_EQ(list.size(), 2);
@@ -53,7 +53,7 @@ TEST(AppendElements, takesEachMatchInDocumentOrder)
     EXPECT_EQ(list.xml, "<r><Item>1</Item><Other/><x:Item>2</x:Item></r>");
 }
 
-TEST(AppendElements, keepsElementsWithoutContent)
+TEST(ReadElements, keepsElementsWithoutContent)
 {
     const ElementVector list("<r><Item/></r>", "/r");
     ASSERT_EQ(list.size(), 1);
@@ -61,31 +61,29 @@ TEST(AppendElements, keepsElementsWithoutContent)
     EXPECT_FALSE(list[0].isNull());
 }
 
-TEST(AppendElements, givesAnEmptyListForAnotherReply)
+TEST(ReadElements, givesAnEmptyListForAnotherReply)
 {
     EXPECT_TRUE(ElementVector("<r><Item/></r>", "/other").isEmpty());
     EXPECT_TRUE(ElementVector("no xml", "/r").isEmpty());
     EXPECT_TRUE(ElementVector(QByteArray(), QString()).isEmpty());
 }
 
-TEST(AppendElements, addsBehindWhatTheListHolds)
+TEST(ReadElements, takesOnePathAfterTheOther)
 {
-    ElementVector list("<r><Item>1</Item><Options>2</Options></r>", "/r");
-    vorn::appendElements(list, QStringLiteral("/Options"));
-    ASSERT_EQ(list.size(), 2);
-    EXPECT_EQ(list[0].text, "1");
-    EXPECT_EQ(list[1].text, "2");
+    const ElementVector list("<r><Options>3</Options><Item>1</Item><Options>4</Options><Item>2</Item></r>", "/r");
+    ASSERT_EQ(list.size(), 4);
+    for (qsizetype i = 0; i < 4; ++i)
+        EXPECT_EQ(list[i].text, QString::number(i + 1));
 }
 
-TEST(AppendElements, takesNoMoreRoomThanTheElementsNeed)
+TEST(ReadElements, takesNoMoreRoomThanTheElementsNeed)
 {
-    ElementVector list("<r><Item/><Options/><Options/><Options/><Options/><Options/></r>", "/r");
-    vorn::appendElements(list, QStringLiteral("/Options"));
+    const ElementVector list("<r><Item/><Options/><Options/><Options/><Options/><Options/></r>", "/r");
     EXPECT_EQ(list.size(), 6);
     EXPECT_EQ(list.capacity(), 6);
 }
 
-TEST(AppendElements, putsElementsThroughTheirOwnCopyOperation)
+TEST(ReadElements, putsElementsThroughTheirOwnCopyOperation)
 {
     const ElementVector list("<r><Item/></r>", "/r");
     ASSERT_EQ(list.size(), 1);

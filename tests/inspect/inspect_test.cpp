@@ -72,7 +72,62 @@ TEST(Inspect, saysWhichOperationItHasNoRecordFor)
 {
     const Result result = inspect({hostname});
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_EQ(result.output, QByteArray("GetHostnameResponse\n  The library has no record for this reply.\n"));
+    EXPECT_TRUE(result.output.startsWith("GetHostnameResponse\n  The library has no record for this reply.\n"));
+}
+
+const QByteArray withoutRecord =
+    inBody("<x:GetThingsResponse xmlns:x='urn:x' b='2' a='&lt;1' x:c='3'><x:Thing token='t1'><Name>one</Name></x:Thing>"
+           "<Thing token='t2'/><Empty/><Count>2</Count>\n<Mixed>a<B>b</B>c<![CDATA[d]]></Mixed></x:GetThingsResponse>");
+
+TEST(Inspect, showsAllThatIsInAReplyWithoutARecord)
+{
+    const Result result = inspect({"-"}, withoutRecord);
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, QByteArray("GetThingsResponse\n"
+                                        "  The library has no record for this reply.\n"
+                                        "  tree:\n"
+                                        "    @a: \"<1\"\n"
+                                        "    @b: \"2\"\n"
+                                        "    @x:c: \"3\"\n"
+                                        "    Thing:\n"
+                                        "      @token: \"t1\"\n"
+                                        "      Name: \"one\"\n"
+                                        "    Thing:\n"
+                                        "      @token: \"t2\"\n"
+                                        "    Empty: \"\"\n"
+                                        "    Count: \"2\"\n"
+                                        "    Mixed:\n"
+                                        "      #text: \"acd\"\n"
+                                        "      B: \"b\"\n"));
+}
+
+TEST(Inspect, printsAllThatIsInAReplyWithoutARecordAsJson)
+{
+    const QJsonObject line = QJsonDocument::fromJson(inspect({"--json", "-"}, withoutRecord).output).object();
+    EXPECT_TRUE(line["record"].isNull());
+    const QJsonObject tree{
+        {"@a", "<1"},
+        {"@b", "2"},
+        {"@x:c", "3"},
+        {"Thing", QJsonArray{QJsonObject{{"@token", "t1"}, {"Name", "one"}}, QJsonObject{{"@token", "t2"}}}},
+        {"Empty", ""},
+        {"Count", "2"},
+        {"Mixed", QJsonObject{{"#text", "acd"}, {"B", "b"}}}};
+    EXPECT_EQ(line["tree"].toObject(), tree);
+    EXPECT_FALSE(QJsonDocument::fromJson(inspect({"--json", deviceInformation}).output).object().contains("tree"));
+}
+
+TEST(Inspect, showsAFaultInTheDevicesOwnWords)
+{
+    const QByteArray fault = inBody("<Fault><Code><Value>s:Sender</Value></Code><Reason><Text>No\nway</Text></Reason>"
+                                    "<Detail><Text>really</Text><Text>not</Text></Detail></Fault>");
+    const QByteArray output = inspect({"-"}, fault).output;
+    EXPECT_TRUE(output.endsWith("\n  reason: \"No\\nway\"\n  detail:\n    Text: \"really\"\n    Text: \"not\"\n"))
+        << output.toStdString();
+    const QJsonObject json =
+        QJsonDocument::fromJson(inspect({"--json", "-"}, fault).output).object()["fault"].toObject();
+    EXPECT_EQ(json["reason"].toString(), "No\nway");
+    EXPECT_EQ(json["detail"].toObject()["Text"].toArray(), (QJsonArray{"really", "not"}));
 }
 
 TEST(Inspect, recognisesWhatIsNoReplyOfAnOperation)
@@ -151,7 +206,8 @@ TEST(Inspect, showsAFaultByNameNumberAndSentence)
                                         "  subcodeType: \"InvalidArgVal\"\n"
                                         "  specificType: \"FixedUser\"\n"
                                         "  errorId: 4\n"
-                                        "  sentence: \"Password or user level may not be changed.\"\n"));
+                                        "  sentence: \"Password or user level may not be changed.\"\n"
+                                        "  reason: \"fixed user\"\n"));
     EXPECT_EQ(result.errors, QByteArray());
 }
 
@@ -174,7 +230,8 @@ TEST(Inspect, printsAFaultAsJson)
                                {"subcodeType", "InvalidArgVal"},
                                {"specificType", "FixedUser"},
                                {"errorId", 4},
-                               {"sentence", "Password or user level may not be changed."}};
+                               {"sentence", "Password or user level may not be changed."},
+                               {"reason", "fixed user"}};
     EXPECT_EQ(line.value("fault").toObject(), expected);
 }
 
@@ -210,8 +267,9 @@ TEST(Inspect, namesTheFaultsThatAreNotOfSoap)
 
 TEST(Inspect, saysWhyAFaultCannotBeClassified)
 {
-    EXPECT_EQ(inspect({"-"}, inBody("<Fault><Code/></Fault>")).output,
-              QByteArray("SOAP fault\n  It has no Code with a Value, as SOAP 1.2 wants it.\n"));
+    EXPECT_EQ(
+        inspect({"-"}, inBody("<Fault><Code/></Fault>")).output,
+        QByteArray("SOAP fault\n  It has no Code with a Value, as SOAP 1.2 wants it.\n  tree:\n    Code: \"\"\n"));
     EXPECT_EQ(inspect({"-"}, "<Fault><Reason/></Fault>").output,
               QByteArray("bare fault\n  It has no Reason with a Text.\n"));
 }
@@ -314,6 +372,13 @@ TEST(Inspect, printsNothingThatCouldDisturbATerminal)
                                                 "x9b;</Model></GetDeviceInformationResponse>"));
     EXPECT_TRUE(result.output.contains("model: \"a\\u001b[31m\\n\\\"\\\\\\t\\u202e\\u009b\"\n"))
         << result.output.toStdString();
+}
+
+TEST(Inspect, printsNothingThatCouldDisturbATerminalAsJsonEither)
+{
+    const Result result = inspect({"--json", "-"}, inBody("<GetDeviceInformationResponse><Model>&#x9b;&#x202e;&#xe0021;"
+                                                          "</Model></GetDeviceInformationResponse>"));
+    EXPECT_TRUE(result.output.contains(R"("model":"\u009b\u202e\udb40\udc21")")) << result.output.toStdString();
 }
 
 TEST(Inspect, usesNoColoursAwayFromATerminal)

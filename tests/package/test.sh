@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Uses the library as programs outside its tree do: installed and moved, found by CMake and by pkg-config, added as a
-# subfolder, shared and static, with GCC and Clang, as C++17, C++20 and C++23, and from its Debian packages.
+# subfolder, shared and static, with GCC and Clang, as C++17, C++20 and C++23, over a utility library of the program's
+# own, and from its Debian packages.
 #
 # usage: test.sh SOURCE WORK     SOURCE is the top folder; WORK is emptied and used
 set -euo pipefail
@@ -36,14 +37,28 @@ check() {
     echo "  $name: good"
 }
 
-# consume NAME CMAKE-OPTION...: builds the consumer with CMake and runs it
+# consume NAME CMAKE-OPTION...: builds the consumer with CMake, in the folder that $build names afterwards, and runs it
 consume() {
-    local name=$1 build
+    local name=$1
     shift
     build=$work/build-${name//[^A-Za-z0-9+]/-}
     quietly cmake -S "$source/tests/package/consumer" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug "$@"
     quietly cmake --build "$build"
     check "$name" "$build/consumer"
+}
+
+# inspect PROGRAM: PROGRAM has to show each sample as it is expected
+inspect() {
+    local program=$1 sample code count=0
+    for sample in "$source"/samples/*/*.xml; do
+        code=0
+        "$program" "$sample" >"$work/shown" || code=$?
+        echo "exit code $code" >>"$work/shown"
+        cmp "$work/shown" "$sample.expected" || { echo "package test: $sample is shown otherwise" >&2; return 1; }
+        count=$((count + 1))
+    done
+    [ "$count" -gt 0 ]
+    echo "  its onvif-inspect: $count samples shown as expected"
 }
 
 # refuse NAME SENTENCE COMMAND...: COMMAND has to fail and to say SENTENCE
@@ -87,7 +102,12 @@ for kind in shared static; do
     consume "$kind, add_subdirectory" -DLIBRARY_SOURCE="$source" \
         -DBUILD_SHARED_LIBS="$([ $kind = shared ] && echo ON || echo OFF)"
 done
-consume "shared, add_subdirectory, own VornSDK::Util" -DLIBRARY_SOURCE="$source" -DOWN_UTIL=ON -DBUILD_SHARED_LIBS=ON
+for variant in "shared views" "shared nodes" "static nodes"; do
+    read -r kind offers <<<"$variant"
+    consume "$kind, add_subdirectory, own VornSDK::Util with $offers" -DLIBRARY_SOURCE="$source" -DOWN_UTIL="$offers" \
+        -DVORNSDK_ONVIF_BUILD_TOOLS=ON -DBUILD_SHARED_LIBS="$([ "$kind" = shared ] && echo ON || echo OFF)"
+    inspect "$build/vornsdk-onvif/bin/onvif-inspect"
+done
 
 echo "Asking for what is not there"
 refuse "a version to come" "version: $version" \

@@ -1,5 +1,6 @@
 // Every sample reads the same by every road. That each is shown as the outline beside it says, shown.cmake checks.
 
+#include "fuzz/sameview.h"
 #include "samples.h"
 #include "support/printing.h"
 
@@ -28,6 +29,7 @@ void expectAgreement(XmlResponse &response, const XmlResponseNode &node, const Q
     EXPECT_EQ(response.getText(path), found.element.text()) << path.toStdString();
     EXPECT_EQ(response.getText(path).isNull(), found.element.text().isNull()) << path.toStdString();
     EXPECT_EQ(response.getUInt(path), found.element.text().toUInt()) << path.toStdString();
+    EXPECT_TRUE(fuzz::isSame(response.view(path), found)) << path.toStdString();
     const QDomNamedNodeMap attributes = found.element.attributes();
     for (int i = 0; i < attributes.count(); ++i) {
         const QString name = attributes.item(i).nodeName();

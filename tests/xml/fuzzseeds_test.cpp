@@ -31,8 +31,8 @@ TEST(FuzzSeeds, askForElementsThatAreThere)
 TEST(FuzzSeeds, haveTheAnswersThatAreWrittenDown)
 {
     const std::pair<QString, QString> answers[] = {
-        {"DocumentElement", "1"}, {"Leaf", "front <door>"}, {"Number", "\n 42 "},
-        {"Repeated", " true "},   {"Utf16", "true"},
+        {"DocumentElement", "1"}, {"IllFormedNames", "1"}, {"Leaf", "front <door>"},
+        {"Number", "\n 42 "},     {"Repeated", " true "},  {"Utf16", "true"},
     };
     EXPECT_EQ(QDir(QStringLiteral(SEEDS_FOLDER)).entryList(QDir::Files).size(), qsizetype(std::size(answers)));
     for (const auto &[name, text] : answers) {

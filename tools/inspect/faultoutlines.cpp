@@ -1,5 +1,6 @@
 #include "fault/faultcodes.h"
 #include "outlines.h"
+#include "tree.h"
 
 namespace inspect {
 namespace {
@@ -40,10 +41,19 @@ Outline outline(const OnvifFault &fault)
                 specificName = nameOf(specific->literal, fault.specificType);
         }
     }
-    return Outline::Fields{
+    Outline::Fields fields{
         {"faultType", nameOf(fault.faultType)}, {"subcodeType", subcodeName},   {"specificType", specificName},
         {"errorId", fault.errorId()},           {"sentence", fault.toString()},
     };
+    // The device's own words. A fault that stands alone has none: whoever made it is no device.
+    vorn::XmlResponse response = fault.response; // queries are not const
+    const QString reason = response.getText(QStringLiteral("/Envelope/Body/Fault/Reason/Text"));
+    if (!reason.isNull())
+        fields.emplace_back(QStringLiteral("reason"), reason);
+    const vorn::XmlResponseNode detail = response.get(QStringLiteral("/Envelope/Body/Fault/Detail"));
+    if (detail.valid)
+        fields.emplace_back(QStringLiteral("detail"), treeOf(detail));
+    return fields;
 }
 
 } // namespace inspect

@@ -8,7 +8,6 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
-#include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
 #include <algorithm>
@@ -85,7 +84,9 @@ QString asJson(const QString &fileName, const inspect::Reply &reply)
                      {content, reply.record ? reply.record->toJson() : QJsonValue()}};
     if (!reply.remark.isEmpty())
         json.insert(QStringLiteral("remark"), reply.remark);
-    return QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact)) + QLatin1Char('\n');
+    if (reply.tree)
+        json.insert(QStringLiteral("tree"), reply.tree->toJson());
+    return inspect::jsonLine(json) + QLatin1Char('\n');
 }
 
 QString asOutline(const QString &heading, const inspect::Reply &reply, const inspect::Palette &palette)
@@ -95,6 +96,9 @@ QString asOutline(const QString &heading, const inspect::Reply &reply, const ins
         content += reply.record->toLines(palette, 1);
     if (!reply.remark.isEmpty())
         content += QLatin1String("\n  ") + reply.remark;
+    if (reply.tree)
+        content +=
+            inspect::Outline(inspect::Outline::Fields{{QStringLiteral("tree"), *reply.tree}}).toLines(palette, 1);
     return heading + palette.heading + inspect::printable(reply.kind) + palette.end + content + QLatin1Char('\n');
 }
 

@@ -1,8 +1,9 @@
 #include "outline.h"
 
 #include <QtCore/QJsonArray>
-#include <QtCore/QJsonObject>
+#include <QtCore/QJsonDocument>
 #include <QtCore/QLocale>
+#include <QtCore/QMap>
 
 #include <cmath>
 #include <string_view>
@@ -24,20 +25,23 @@ QString lineStart(int depth)
     return QLatin1Char('\n') + QString(qsizetype(2) * depth, QLatin1Char(' '));
 }
 
+/// Whether \a character can neither disturb nor deceive on a terminal.
+bool isHarmless(char32_t character)
+{
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return false;
+    default:
+        return true;
+    }
+}
+
 /// Escapes what is not harmless on a terminal, and the characters of \a others.
 QString escaped(const QString &text, std::u32string_view others)
 {
-    const auto isHarmless = [](char32_t character) {
-        switch (QChar::category(character)) {
-        case QChar::Other_Control:
-        case QChar::Other_Format:
-        case QChar::Separator_Line:
-        case QChar::Separator_Paragraph:
-            return false;
-        default:
-            return true;
-        }
-    };
     QString result;
     result.reserve(text.size());
     for (const char32_t character : text.toUcs4()) {
@@ -99,7 +103,7 @@ QString Outline::toLines(const Palette &palette, int depth) const
     const auto fieldLines = [&](const Fields &fields) {
         QString lines;
         for (const auto &[name, value] : fields) {
-            lines += lineStart(depth) + palette.name + QLatin1String(name) + palette.end + QLatin1Char(':')
+            lines += lineStart(depth) + palette.name + printable(name) + palette.end + QLatin1Char(':')
                      + value.toLines(palette, depth + 1);
         }
         return lines;
@@ -134,9 +138,12 @@ QString Outline::toLines(const Palette &palette, int depth) const
 QJsonValue Outline::toJson() const
 {
     const auto object = [](const Fields &fields) -> QJsonValue {
-        QJsonObject json;
+        QMap<QString, QJsonArray> values;
         for (const auto &[name, value] : fields)
-            json.insert(QLatin1String(name), value.toJson());
+            values[name].append(value.toJson());
+        QJsonObject json;
+        for (auto value = values.begin(); value != values.end(); ++value)
+            json.insert(value.key(), value->size() == 1 ? value->first() : QJsonValue(*value));
         return json;
     };
     const auto array = [](const List &list) -> QJsonValue {
@@ -161,6 +168,22 @@ QJsonValue Outline::toJson() const
 QString printable(const QString &text)
 {
     return escaped(text, U"");
+}
+
+QString jsonLine(const QJsonObject &object)
+{
+    QString result;
+    const QString json = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    for (const char32_t character : json.toUcs4()) {
+        const QString text = QString::fromUcs4(&character, 1);
+        if (isHarmless(character)) {
+            result += text;
+            continue;
+        }
+        for (const QChar unit : text) // JSON writes units of UTF-16
+            result += QStringLiteral("\\u%1").arg(static_cast<uint>(unit.unicode()), 4, 16, QLatin1Char('0'));
+    }
+    return result;
 }
 
 QString quoted(const QString &text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QJsonObject>
 #include <QtCore/QJsonValue>
 #include <QtCore/QString>
 
@@ -21,7 +22,7 @@ struct Palette
 class Outline
 {
 public:
-    using Field = std::pair<const char *, Outline>;
+    using Field = std::pair<QString, Outline>;
     using Fields = std::vector<Field>;
     using List = std::vector<Outline>;
 
@@ -38,6 +39,7 @@ public:
     /// Lines for a person to read, indented by \a depth levels; each begins with its line end.
     QString toLines(const Palette &palette, int depth) const;
 
+    /// Fields of one name become an array.
     QJsonValue toJson() const;
 
 private:
@@ -49,5 +51,8 @@ QString printable(const QString &text);
 
 /// The same in quotation marks, with those of the text escaped too.
 QString quoted(const QString &text);
+
+/// \a object on one line, with what printable() escapes written as escape sequences of JSON.
+QString jsonLine(const QJsonObject &object);
 
 } // namespace inspect

@@ -39,7 +39,7 @@ Outline outline(const vorn::OnvifNetworkInterface::PrefixedAddress &address);
 Outline outline(const vorn::OnvifNetworkGateway &record);
 Outline outline(const vorn::OnvifRelayOutput &record);
 
-/// The three codes by name, the number of the first, and the sentence.
+/// The three codes by name, the number of the first, the sentence, and the device's own words.
 Outline outline(const vorn::OnvifFault &fault);
 
 /// The texts or numbers of \a list in order.

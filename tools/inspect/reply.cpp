@@ -1,6 +1,7 @@
 #include "reply.h"
 
 #include "outlines.h"
+#include "tree.h"
 
 #include <vorn/util/xmlresponse.h>
 
@@ -110,15 +111,23 @@ Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)
     if (body.children.isEmpty())
         return {QStringLiteral("SOAP envelope"), {}, QStringLiteral("Its Body is empty.")};
 
-    const QString element = body.children.constFirst().name;
-    if (element == QLatin1String("Fault"))
-        return {QStringLiteral("SOAP fault"), {}, QStringLiteral("It has no Code with a Value, as SOAP 1.2 wants it.")};
+    const vorn::XmlResponseNode &first = body.children.constFirst();
+    const QString element = first.name;
+    if (element == QLatin1String("Fault")) {
+        Reply reply{
+            QStringLiteral("SOAP fault"), {}, QStringLiteral("It has no Code with a Value, as SOAP 1.2 wants it.")};
+        reply.tree = treeOf(first);
+        return reply;
+    }
 
     const auto *const reader = std::find_if(std::begin(readers), std::end(readers), [&](const Reader &candidate) {
         return element == QLatin1String(candidate.element);
     });
-    if (reader == std::end(readers))
-        return {element, {}, QStringLiteral("The library has no record for this reply.")};
+    if (reader == std::end(readers)) {
+        Reply reply{element, {}, QStringLiteral("The library has no record for this reply.")};
+        reply.tree = treeOf(first);
+        return reply;
+    }
     const QString root = QLatin1String("/Envelope/Body/") + element;
     Reply reply{element, reader->read(bytes, root), QLatin1String(reader->remark)};
     if (reader->requests)

@@ -28,6 +28,9 @@ struct Reply
     /// Gives the record, or each record of the list, as a part of a request that sets it. Empty if the library has no
     /// such form.
     std::function<QStringList()> requests = {};
+
+    /// All that is in the reply, by the names of its elements, where there is no record.
+    std::optional<Outline> tree = {};
 };
 
 /// Reads the reply \a bytes to the request \a action, which must outlive the call only.
