@@ -79,7 +79,7 @@ QString Answer::complaint() const
         return http.failureText;
     const bool isStatus = isReceived() && http.status / 100 != 2;
     const bool saysMore = fault.is(vorn::OnvifFault::UnknownHttpError) || fault.is(vorn::OnvifFault::HttpNotFound);
-    const QString aboutStatus = isStatus && saysMore ? sentenceAboutStatus(http) : QString();
+    QString aboutStatus = isStatus && saysMore ? sentenceAboutStatus(http) : QString();
     if (!aboutStatus.isEmpty())
         return aboutStatus;
     const QString sentence = fault.hasError() ? fault.toString() : "The device gave no answer that can be read.";

@@ -32,7 +32,7 @@ QString addressOf(QUrl url)
 /// The path that all of \a urls have; empty if that is the usual one or they differ.
 QString pathOf(const QList<QUrl> &urls)
 {
-    const QString path = urls.isEmpty() ? QString() : urls.constFirst().path();
+    QString path = urls.isEmpty() ? QString() : urls.constFirst().path();
     for (const QUrl &url : urls) {
         if (url.path() != path || path == usualPath)
             return {};

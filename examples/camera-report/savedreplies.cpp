@@ -5,8 +5,8 @@
 #include <vorn/util/xmlresponse.h>
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QSaveFile>
 #include <QtCore/QUrl>
 
 namespace client {
@@ -83,9 +83,9 @@ QString SavedReplies::keep(const Request &request, const QByteArray &reply, cons
     if (m_kept.contains(name))
         name = example::replyFileName(request.action, request.variant);
     m_kept.insert(name);
-    QSaveFile file(m_folder + '/' + name);
+    QFile file(m_folder + '/' + name);
     if (QDir().mkpath(m_folder) && file.open(QIODevice::WriteOnly) && file.write(cleaned) == cleaned.size()
-        && file.commit())
+        && file.flush())
         return {};
     return QString("The replies cannot be kept in %1: %2.").arg(m_folder, file.errorString());
 }
