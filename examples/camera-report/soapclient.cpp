@@ -60,7 +60,8 @@ SoapClient::SoapClient(const Access &access)
 
 SoapClient::~SoapClient()
 {
-    qDeleteAll(findChildren<HttpExchange *>(QString(), Qt::FindDirectChildrenOnly));
+    const QObjectList exchanges = children(); // a copy, as each takes itself out
+    qDeleteAll(exchanges);
     dispose(std::move(m_manager));
 }
 
