@@ -11,6 +11,22 @@ QJsonObject start(const Configuration &configuration)
     return {{"name", orNull(configuration.name)}, {"token", orNull(configuration.token)}};
 }
 
+/// From the first to the last, as the reply says it: also where a device's number has made the last wrap around, which
+/// QRect::width() must not be asked for.
+int lengthOf(int first, int last)
+{
+    return static_cast<int>(static_cast<unsigned int>(last) - static_cast<unsigned int>(first) + 1U);
+}
+
+QJsonValue jsonOf(const QRect &bounds)
+{
+    const int width = lengthOf(bounds.left(), bounds.right());
+    const int height = lengthOf(bounds.top(), bounds.bottom());
+    if (width == 0 && height == 0)
+        return {};
+    return QJsonObject{{"x", bounds.x()}, {"y", bounds.y()}, {"width", width}, {"height", height}};
+}
+
 QJsonValue jsonOf(const vorn::OnvifVideoSourceConfiguration &source, const Given &given)
 {
     if (source.isNull())
@@ -18,11 +34,7 @@ QJsonValue jsonOf(const vorn::OnvifVideoSourceConfiguration &source, const Given
     QJsonObject json = start(source);
     json["sourceToken"] = orNull(source.sourceToken);
     json["useCount"] = orNull(given.number("/VideoSourceConfiguration/UseCount", source.useCount));
-    json["bounds"] = source.bounds.isNull() ? QJsonValue()
-                                            : QJsonObject{{"x", source.bounds.x()},
-                                                          {"y", source.bounds.y()},
-                                                          {"width", source.bounds.width()},
-                                                          {"height", source.bounds.height()}};
+    json["bounds"] = jsonOf(source.bounds);
     return json;
 }
 

@@ -24,7 +24,7 @@ ChildReader query(const char *name, Field &target)
 }
 
 /// Reads the first child of each name below \a element, which elementAt() gave, and so on in queriesBelow(). A field
-/// whose element is missing stays as it is, which is as it was made.
+/// whose element is missing stays as it was made: null, 0 or false.
 inline void readQueries(const RecordElement &element, std::initializer_list<ChildReader> queries)
 {
     if constexpr (offersViews<XmlResponse>) {

@@ -1,6 +1,7 @@
 #include "readchildren.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace vorn {
 namespace {

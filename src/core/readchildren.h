@@ -12,8 +12,8 @@
 
 namespace vorn {
 
-/// What is read from the children of one name: made by field(), group() or nested(), in the call of readChildren() or
-/// readFirstChildren() only.
+/// What is read from the children of one name: made only in the call that reads, as it points to what that call's
+/// arguments hold.
 struct ChildReader
 {
     QLatin1String name;
@@ -25,8 +25,8 @@ struct ChildReader
 /// it is written. Of several children with one name each is read, so that the last one counts.
 void readChildren(const RecordElement &element, std::initializer_list<ChildReader> readers);
 
-/// The same, but of several children with one name only the first is read, as a path leads to it. There may be 32
-/// readers.
+/// The same, but of several children with one name only the first is read, as a path leads to it. There are at
+/// most 32 readers.
 void readFirstChildren(const RecordElement &element, std::initializer_list<ChildReader> readers);
 
 // How an element becomes the value of a field: its text, converted as the type of the field says. A text that is no

@@ -41,6 +41,8 @@ public:
 
     QString attribute(const QString &name) const { return m_response->getAttribute(name, m_path); }
 
+    QueriedElement at(const QString &path) const { return {*m_response, m_path + path}; }
+
 private:
     XmlResponse *m_response = nullptr;
     QString m_path;
@@ -131,7 +133,7 @@ private:
     View m_view;
 };
 
-/// The element that \a response holds at \a path.
+/// The element that \a response holds at \a path. Its children can be visited where views are offered.
 template <typename Response>
 RecordElement elementAt(Response &response, const QString &path)
 {

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 static OnvifCapabilities::SupportedVersion versionFrom(const RecordElement &element)
 {
     OnvifCapabilities::SupportedVersion version;
-    readFirstChildren(element, {query("Major", version.major), query("Minor", version.minor)});
+    readFirstChildren(element, {field("Major", version.major), field("Minor", version.minor)});
     return version;
 }
 
