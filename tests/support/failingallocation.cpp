@@ -33,6 +33,7 @@ extern "C" {
 void *REAL(malloc)(std::size_t size);
 void *REAL(calloc)(std::size_t count, std::size_t size);
 void *REAL(realloc)(void *memory, std::size_t size);
+void REAL(free)(void *memory);
 
 [[gnu::visibility("default")]] void *malloc(std::size_t size)
 {
@@ -47,6 +48,12 @@ void *REAL(realloc)(void *memory, std::size_t size);
 [[gnu::visibility("default")]] void *realloc(void *memory, std::size_t size)
 {
     return mustFail() ? nullptr : REAL(realloc)(memory, size);
+}
+
+// All four, or the linker looks for the last where an AllocationCounter has them all.
+[[gnu::visibility("default")]] void free(void *memory)
+{
+    REAL(free)(memory);
 }
 }
 
