@@ -18,6 +18,8 @@ build() {
 
 # run_tests PRESET [CTEST-OPTION...]: runs the tests that are built, and says what came of them.
 run_tests() {
+    # On a bare system programs of Qt 6.8 and later warn that the locale is not one of UTF-8.
+    [ "$(locale charmap 2>/dev/null)" = UTF-8 ] || export LC_ALL=C.UTF-8
     local failed=0 folder=build/$1/Testing
     rm -rf "$folder/cases" "$folder/tests.xml" # a program that crashes leaves nothing new
     # Some tests wait for each other more than they work, so there are more at a time than processors.
