@@ -47,10 +47,10 @@ Outline outlineUnlessNull(const Value &value)
 
 /// Whether a field points to something of the program's own, which no reply tells.
 template <typename Field>
-constexpr bool isOfProgram = std::is_pointer_v<Field>;
+inline constexpr bool isOfProgram = std::is_pointer_v<Field>;
 
 template <typename Type>
-constexpr bool isOfProgram<QSharedPointer<Type>> = true;
+inline constexpr bool isOfProgram<QSharedPointer<Type>> = true;
 
 /// The fields of \a record that a reply can tell.
 template <typename Record>
