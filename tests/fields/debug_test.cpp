@@ -171,12 +171,17 @@ TEST(Debug, printsTheRecordsInContainersOfQt)
     EXPECT_TRUE(printed(QVariant::fromValue(rule)).contains("OnvifRule(null)"));
 }
 
-TEST(Debug, leavesOtherContainersAlone)
+TEST(Debug, leavesAllElseAlone)
 {
     QString text;
     QDebug(&text) << QStringList{"a"} << QList<int>{1} << QMultiMap<QString, QString>{{"a", "b"}};
     EXPECT_FALSE(text.startsWith('['));
     EXPECT_FALSE(text.contains('{'));
+
+    text.clear();
+    QDebug(&text).nospace() << Qt::hex << 255 << "text" << nullptr << Qt::Horizontal << QSize(1, 2);
+    EXPECT_TRUE(text.startsWith("fftext"));
+    EXPECT_TRUE(text.endsWith("QSize(1, 2)"));
 }
 
 template <typename Type, typename = void>
