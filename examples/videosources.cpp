@@ -13,6 +13,7 @@ int main(int argc, char **argv)
     QTextStream out(stdout);
 
     const QByteArray bytes = reply.readAll();
+    //! [views]
     const vorn::XmlResponse response(bytes, "/Envelope/Body/GetVideoSourcesResponse");
     if (response.view("").isNull())
         out << "no answer to GetVideoSources\n";
@@ -26,5 +27,6 @@ int main(int argc, char **argv)
                 out << "  " << setting.name() << ' ' << setting.toDouble() << '\n';
         }
     }
+    //! [views]
     return 0;
 }
