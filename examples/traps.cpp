@@ -151,19 +151,19 @@ void hash(QTextStream &out, const QByteArray &)
 void null(QTextStream &out, const QByteArray &bytes)
 {
     //! [null]
-    // Wrong: of a reply without any of these, the first is never null and the second always.
     const OnvifProfile profile(bytes, "/Envelope/Body/GetProfileResponse");
     const vorn::OnvifNetworkGateway gateway(bytes);
-    out << (profile.isNull() ? "no profile\n" : "a profile\n");
-
-    // Right: ask for what makes the record worth having.
-    out << (profile.token.isEmpty() ? "no profile\n" : "a profile\n");
-    out << (gateway.ipv4Address.isEmpty() && gateway.ipv6Address.isEmpty() ? "no gateway\n" : "a gateway\n");
-
-    // Wrong: a record that is filled by hand stays null.
     vorn::OnvifRelayOutput relay;
     relay.token = "relay_1";
-    out << (relay.isNull() ? "no relay\n" : "a relay\n");
+
+    // Wrong: a profile that is read never is null, a gateway always, and filling a record by hand changes nothing.
+    out << (profile.isNull() ? "no profile, " : "a profile, ") << (gateway.isNull() ? "no gateway, " : "a gateway, ")
+        << (relay.isNull() ? "no relay\n" : "a relay\n");
+
+    // Right: ask for what makes the record worth having.
+    const bool hasGateway = !gateway.ipv4Address.isEmpty() || !gateway.ipv6Address.isEmpty();
+    out << (profile.token.isEmpty() ? "no profile, " : "a profile, ") << (hasGateway ? "a gateway, " : "no gateway, ")
+        << (relay.token.isEmpty() ? "no relay\n" : "a relay\n");
     //! [null]
 }
 

@@ -85,8 +85,6 @@ public:
     /// Why the last answer was none; empty if it was one.
     QString complaint() const { return m_complaint; }
 
-public Q_SLOTS:
-
     /// Takes the answer to GetProfiles. Network code on another thread may be connected to it: it sends the bytes.
     void takeProfiles(const QByteArray &bytes)
     {
