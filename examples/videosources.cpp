@@ -14,6 +14,7 @@ int main(int argc, char **argv)
     QTextStream out(stdout);
 
     const QByteArray bytes = reply.readAll();
+    //! [views]
     const vorn::XmlResponse response(bytes, vorn::paths::GetVideoSourcesResponse);
     if (response.view("").isNull())
         out << "no answer to GetVideoSources\n";
@@ -27,5 +28,6 @@ int main(int argc, char **argv)
                 out << "  " << setting.name() << ' ' << setting.toDouble() << '\n';
         }
     }
+    //! [views]
     return 0;
 }
