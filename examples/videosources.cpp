@@ -1,3 +1,4 @@
+#include <vorn/onvif/paths.h>
 #include <vorn/util/xmlresponse.h>
 
 #include <QtCore/QFile>
@@ -14,7 +15,7 @@ int main(int argc, char **argv)
 
     const QByteArray bytes = reply.readAll();
     //! [views]
-    const vorn::XmlResponse response(bytes, "/Envelope/Body/GetVideoSourcesResponse");
+    const vorn::XmlResponse response(bytes, vorn::paths::GetVideoSourcesResponse);
     if (response.view("").isNull())
         out << "no answer to GetVideoSources\n";
     for (const vorn::XmlElementView source : response.viewAll("/VideoSources")) {
