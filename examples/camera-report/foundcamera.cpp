@@ -55,7 +55,7 @@ QString FoundCamera::ownAddress() const
 qsizetype FoundCamera::size() const
 {
     qsizetype characters = name.size() + hardware.size() + endpoint.size() + path.size();
-    for (const QString &text : addresses + types)
+    for (const QString &text : addresses + types + locations)
         characters += text.size() + qsizetype(sizeof(QString));
     return qsizetype(sizeof(FoundCamera)) + characters * qsizetype(sizeof(QChar));
 }
@@ -75,8 +75,11 @@ std::optional<FoundCamera> foundCamera(const QByteArray &datagram, const QHostAd
     found.path = pathOf(urlsOf(camera, "http"));
     found.name = camera.scopes.value("name");
     found.hardware = camera.scopes.value("hardware");
+    // The last of the message comes first.
     for (const QString &type : camera.scopes.values("type"))
-        found.types.prepend(type); // the last of the message comes first
+        found.types.prepend(type);
+    for (const QString &location : camera.scopes.values("location"))
+        found.locations.prepend(location);
     found.endpoint = camera.response.getText("/EndpointReference/Address");
     return found;
 }

@@ -16,9 +16,10 @@ struct FoundCamera
     QStringList addresses; ///< all that the camera names; those of TLS as URLs
     QString name;
     QString hardware;
-    QStringList types; ///< what kinds of device it is, in its own order
-    QString endpoint;  ///< its identity, which some makers give to all their devices
-    QString path;      ///< of its device service; empty if that is the usual one
+    QStringList types;     ///< what kinds of device it is, in its own order
+    QStringList locations; ///< where it is, likewise
+    QString endpoint;      ///< its identity, which some makers give to all their devices
+    QString path;          ///< of its device service; empty if that is the usual one
 
     /// What --address takes for the first of the addresses that is the sender's; empty if none is. An answer may name
     /// anyone: whoever is asked, and gets what can be made of the password to see, has at least answered himself.

@@ -9,6 +9,19 @@ Given::Given(vorn::XmlElementView entry)
 {
 }
 
+Given Given::at(const char *path) const
+{
+    return Given(m_entry.at(path));
+}
+
+std::vector<Given> Given::children() const
+{
+    std::vector<Given> children;
+    for (const vorn::XmlElementView child : m_entry.children())
+        children.emplace_back(child);
+    return children;
+}
+
 QString Given::text(const char *path) const
 {
     return m_entry.at(path).text();
@@ -19,11 +32,23 @@ QString Given::attribute(const char *attribute) const
     return m_entry.attribute(attribute);
 }
 
-std::optional<int> Given::number(const char *path, int value) const
+std::optional<int> Given::number(const char *path) const
 {
     bool isNumber = false;
-    text(path).trimmed().toInt(&isNumber);
-    return isNumber ? std::optional<int>(value) : std::nullopt;
+    const int number = text(path).trimmed().toInt(&isNumber);
+    return isNumber ? std::optional<int>(number) : std::nullopt;
+}
+
+std::optional<int> Given::number(const char *path, int value) const
+{
+    return number(path) ? std::optional<int>(value) : std::nullopt;
+}
+
+std::optional<double> Given::decimal(const char *path, double value) const
+{
+    bool isNumber = false;
+    text(path).trimmed().toDouble(&isNumber);
+    return isNumber ? std::optional<double>(value) : std::nullopt;
 }
 
 std::optional<bool> Given::flag(const char *path) const

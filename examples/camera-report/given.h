@@ -18,14 +18,27 @@ public:
     /// \a entry has to stay as long.
     explicit Given(vorn::XmlElementView entry);
 
+    /// The same for what stands at \a path below the entry; there is nothing in it if that is missing.
+    Given at(const char *path) const;
+
+    /// The same for each element right below the entry.
+    std::vector<Given> children() const;
+
+    /// Whether the entry is there.
+    explicit operator bool() const { return !m_entry.isNull(); }
+
     /// The text at \a path below the entry; null if it is not there.
     QString text(const char *path) const;
 
     /// The value of the entry's own \a attribute; null if it is not there.
     QString attribute(const char *attribute) const;
 
+    /// The number at \a path.
+    std::optional<int> number(const char *path) const;
+
     /// \a value, if the entry has a number at \a path.
     std::optional<int> number(const char *path, int value) const;
+    std::optional<double> decimal(const char *path, double value) const; ///< As above.
 
     /// The boolean at \a path, in each of the forms that XML Schema has.
     std::optional<bool> flag(const char *path) const;

@@ -32,6 +32,9 @@ QJsonValue sectionJson(const Section<Record> &section, Function jsonOfRecord)
     return jsonOfRecord(*section.record);
 }
 
+/// What the services of a device can do.
+QJsonObject featuresJson(const vorn::OnvifCapabilities &capabilities);
+
 /// The profiles of \a report.
 QJsonArray profilesJson(const Report &report);
 

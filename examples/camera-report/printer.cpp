@@ -15,7 +15,9 @@ QJsonObject jsonOf(const FoundCamera &found)
             {"addresses", QJsonArray::fromStringList(found.addresses)},
             {"name", orNull(found.name)},
             {"hardware", orNull(found.hardware)},
-            {"types", QJsonArray::fromStringList(found.types)}};
+            {"types", QJsonArray::fromStringList(found.types)},
+            {"locations", QJsonArray::fromStringList(found.locations)},
+            {"endpoint", orNull(found.endpoint)}};
 }
 
 QString textOf(const FoundCamera &found)

@@ -118,6 +118,7 @@ QJsonObject jsonOf(const Report &report)
             {"clock", sectionJson(report.clock, clockJson)},
             {"versions", sectionJson(report.capabilities, versionsJson)},
             {"services", sectionJson(report.capabilities, servicesJson)},
+            {"features", sectionJson(report.capabilities, featuresJson)},
             {"scopes", sectionJson(report.scopes, scopesJson)},
             {"profiles",
              sectionJson(report.profiles, [&](const vorn::OnvifProfileVector &) { return profilesJson(report); })},

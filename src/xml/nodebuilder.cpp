@@ -3,6 +3,9 @@
 #include "xmlnames.h"
 #include "xmltext.h"
 
+#include <cstddef>
+#include <new>
+
 namespace vorn {
 namespace {
 
@@ -17,6 +20,35 @@ QDomElement newElement(QDomDocument &owner, const QString &name)
     element.setTagName(name);
     return element;
 }
+
+/// Sees to it that an element is never destroyed if an exception passes by: when memory runs out while QDom takes in an
+/// attribute, that is all that is left to do with it. Its map has a place then that nothing stands in, and to destroy
+/// it would crash. It holds its attributes only: no child element has been appended yet.
+class AttributesGuard
+{
+public:
+    explicit AttributesGuard(const QDomElement &element)
+        : m_element(element)
+    {
+    }
+
+    AttributesGuard(const AttributesGuard &) = delete;
+    AttributesGuard &operator=(const AttributesGuard &) = delete;
+
+    ~AttributesGuard()
+    {
+        if (m_isComplete)
+            return;
+        alignas(QDomElement) std::byte memory[sizeof(QDomElement)];
+        new (memory) QDomElement(m_element); // never gives back its share of the element
+    }
+
+    void complete() { m_isComplete = true; }
+
+private:
+    const QDomElement &m_element;
+    bool m_isComplete = false;
+};
 
 void append(QDomElement &element, QDomCharacterData &&node, const QString &data)
 {
@@ -69,9 +101,11 @@ QString NodeBuilder::value(const char *utf8)
 
 void NodeBuilder::setAttributes(QDomElement &element, pugi::xml_node source)
 {
+    AttributesGuard guard(element);
     // Backwards, so that of a repeated attribute the first is set last and stays.
     for (pugi::xml_attribute attribute = source.last_attribute(); attribute; attribute = attribute.previous_attribute())
         element.setAttribute(name(attribute.name()).qualified, value(attribute.value()));
+    guard.complete();
 }
 
 void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)

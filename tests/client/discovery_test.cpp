@@ -35,6 +35,7 @@ TEST(FoundCamera, isReadWithAnyWhiteSpaceBetweenItsScopesAndAddresses)
     EXPECT_EQ(found->name, QString::fromUtf8("K\xc3\xb6ln"));
     EXPECT_EQ(found->hardware, "C1");
     EXPECT_EQ(found->types, (QStringList{"Video", "PTZ"}));
+    EXPECT_EQ(found->endpoint, "urn:uuid:1");
     EXPECT_EQ(found->addresses, (QStringList{"192.0.2.7", "192.0.2.8:8080"}));
     EXPECT_EQ(found->ownAddress(), "192.0.2.7");
 }

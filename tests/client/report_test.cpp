@@ -58,6 +58,7 @@ TEST_P(Styles, giveTheSameSectionsAsJson)
         {"GetDeviceInformation", "information"},
         {"GetCapabilities", "services"},
         {"GetCapabilities", "versions"},
+        {"GetCapabilities", "features"},
         {"GetScopes", "scopes"},
         {"GetProfiles", "profiles"},
         {"GetNetworkInterfaces", "interfaces"},

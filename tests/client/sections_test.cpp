@@ -159,7 +159,7 @@ TEST(Sections, sayWhyThereIsNothingInAnyOfThem)
     EXPECT_EQ(json["clock"]["notAnswered"].toString(),
               "Failure when receiving data from the peer. (no complete reply within 0.5 s)");
     for (const char *name :
-         {"information", "versions", "services", "scopes", "profiles", "interfaces", "gateway", "relays"}) {
+         {"information", "versions", "services", "features", "scopes", "profiles", "interfaces", "gateway", "relays"}) {
         EXPECT_EQ(json[QLatin1String(name)]["notAnswered"].toString(),
                   "It was not asked, as the device has fallen silent.")
             << name;

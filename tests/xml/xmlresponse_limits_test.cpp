@@ -98,13 +98,16 @@ TEST_P(Refused, readsAsAnEmptyDocumentAndKeepsItsText)
     EXPECT_EQ(response.xml(), QString::fromUtf8(GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(XmlResponse, Refused,
-                         testing::Values("   \r\n\t ", "plain text", "<a k='1'>1", "<a k='1'>1</b>", "<a k='1'>1</a",
-                                         "<a k='1'>1</a></a>", "<a k='1'/><b/>", "<a k='1'/><a k='2'/>",
-                                         "<a k='1'>1</a>text", "text<a k='1'>1</a>", "<a k='1'/>&#32;",
-                                         "<a k='1'/><![CDATA[x]]>", "<![CDATA[]]><a k='1'/>", "<a k=1/>", "<a k/>",
-                                         "<!-- <a/> -->", "<?xml version='1.0'?>", "<", "<?", "<!", "&",
-                                         "<a k='1'/><"));
+INSTANTIATE_TEST_SUITE_P(
+    XmlResponse, Refused,
+    testing::Values("   \r\n\t ", "plain text", "<a k='1'>1", "<a k='1'>1</b>", "<a k='1'>1</a", "<a k='1'>1</a></a>",
+                    "<a k='1'/><b/>", "<a k='1'/><a k='2'/>", "<a k='1'>1</a>text", "text<a k='1'>1</a>",
+                    "<a k='1'/>&#32;", "<a k='1'/><![CDATA[x]]>", "<![CDATA[]]><a k='1'/>", "<a k=1/>", "<a k/>",
+                    "<!-- <a/> -->", "<?xml version='1.0'?>", "<", "<?", "<!", "&", "<a k='1'/><", "<a k='1'j='2'/>",
+                    "<a></a k='1'>", "<a k='1'></A>", "< a k='1'/>", "<a k='1'><1/></a>", "<a k='1'><!-- </a>",
+                    "<!---><a k='1'/>", "<a k='1'><![CDATA[</a>", "<a k='1'><?p></a>", "<a k='1'><?1 ?></a>",
+                    "<a k='1'><!DOCTYPE a></a>", "<a k='1'><!ENTITY e 'x'></a>", "<!DOCTYPE a '><a k='1'/>",
+                    "<!DOCTYPE a [<!><a k='1'/>", "<!doctype a><a k='1'/>"));
 
 class Accepted : public testing::TestWithParam<const char *>
 {
@@ -123,6 +126,72 @@ INSTANTIATE_TEST_SUITE_P(XmlResponse, Accepted,
                                          "<?pi?><a>1</a><?pi x?>", "<!DOCTYPE a><a>1</a>",
                                          "<!DOCTYPE html PUBLIC '-//W3C//DTD' 'http://www.w3.org/x.dtd'><a>1</a>",
                                          "<?xml version='1.0'?><!DOCTYPE a [<!ELEMENT a ANY>]><!-- c --><a>1</a>"));
+
+struct ForgivenRow
+{
+    const char *name;
+    QByteArray document;
+    const char16_t *text;      // of the element "a"
+    const char16_t *attribute; // "k" of that element
+};
+
+class Forgiven : public testing::TestWithParam<ForgivenRow>
+{
+};
+
+// What no XML parser has to accept and devices send all the same.
+const ForgivenRow forgivenDocuments[] = {
+    {"illFormedUtf8", "<a k='\xFF'>x\xC3y</a>", u"x\uFFFDy", u"\uFFFD"},
+    {"nul", QByteArray("<a k='\0'>x\0y</a>\0", 18), u"x\uFFFDy", u"\uFFFD"},
+    {"controlCharacters", "<a k='\x01\x7F'>x\x0B\x1Fy</a>", u"x\u000B\u001Fy", u"\u0001\u007F"},
+    {"nonCharacters", "<a k='\xEF\xBF\xBE'>x\xEF\xBF\xBFy</a>", u"x\uFFFFy", u"\uFFFE"},
+    {"ampersand", "<a k='1 & 2 &&'>x & y &amp</a>", u"x & y &amp", u"1 & 2 &&"},
+    {"unknownEntity", "<a k='&unknown;'>x&nbsp;y</a>", u"x&nbsp;y", u"&unknown;"},
+    {"referenceToNoCharacter", "<a k='&#0;'>x&#xD800;y&#x110000;</a>", u"x\uFFFDy\uFFFD", u"\uFFFD"},
+    {"referenceToAForbiddenCharacter", "<a k='&#1;'>x&#xFFFE;y&#11;</a>", u"x\uFFFEy\u000B", u"\u0001"},
+    {"lessThanInAnAttribute", "<a k='1 < 2 <b/>'>x</a>", u"x", u"1 < 2 <b/>"},
+    {"endOfCdataInText", "<a k='1'>x]]>y</a>", u"x]]>y", u"1"},
+    {"repeatedAttribute", "<a k='1' k='2'>x</a>", u"x", u"1"},
+    {"undeclaredPrefix", "<p:a k='1' q:k='2'><q:b>x</q:b></p:a>", u"x", u"1"},
+    {"emptyPrefix", "<:a k='1' :k='2'>x</:a>", u"x", u"1"},
+    {"colonsInNames", "<p:a k='1' p:q:k='2' k:='3'><p:q:b>x</p:q:b><b:>y</b:></p:a>", u"xy", u"1"},
+    {"namesOfAnyCharacter", "<a k='1' \xC3\x97='2'><\xC2\xA0>x</\xC2\xA0></a>", u"x", u"1"},
+    {"hyphensInAComment", "<!-- -- ---><a k='1'>x<!-----><!-- -- ->-->y</a>", u"xy", u"1"},
+    {"formOfAProcessingInstruction", "<?p!?><a k='1'>x<?p<b/>?><?p&?>y</a>", u"xy", u"1"},
+    {"formOfTheDeclaration", "<?xml?><a k='1'>x</a>", u"x", u"1"},
+    {"versionOfTheDeclaration", "<?xml version='none' standalone=maybe?><a k='1'>x</a>", u"x", u"1"},
+    {"declarationInAnElement", "<a k='1'>x<?xml version='1.0'?>y</a>", u"xy", u"1"},
+    {"declarationBehindOthers", "\n<!-- --><?xml version='1.0'?><?xml version='1.0'?><a k='1'>x</a>", u"x", u"1"},
+    {"declarationBehindTheRoot", "<a k='1'>x</a><?xml version='1.0'?>", u"x", u"1"},
+    {"dtdBehindTheRoot", "<a k='1'>x</a><!DOCTYPE a [<!ENTITY e 'y'>]>", u"x", u"1"},
+    {"severalDtds", "<!DOCTYPE a><!DOCTYPE b []><a k='1'>x</a>", u"x", u"1"},
+    {"formOfADtd", "<!DOCTYPE><!DOCTYPE 1 [! <?p?> <!b <!c>>><a k='1'>x</a>", u"x", u"1"},
+};
+
+TEST_P(Forgiven, isReadByQueriesViewsAndNodes)
+{
+    XmlResponse response(GetParam().document, "");
+    const QString text = QStringView(GetParam().text).toString();
+    const QString attribute = QStringView(GetParam().attribute).toString();
+
+    EXPECT_EQ(response.getText("/a"), text);
+    EXPECT_EQ(response.getAttribute("k", "/a"), attribute);
+    EXPECT_EQ(response.view("/a").text(), text);
+    EXPECT_EQ(response.view("/a").attribute("k"), attribute);
+    EXPECT_EQ(response.get("/a").element.text(), text);
+    EXPECT_EQ(response.get("/a").element.attribute("k"), attribute);
+}
+
+INSTANTIATE_TEST_SUITE_P(XmlResponse, Forgiven, testing::ValuesIn(forgivenDocuments),
+                         [](const auto &document) { return std::string(document.param.name); });
+
+TEST(XmlResponseDtd, attributesThatItDeclaresAreNotKnown)
+{
+    XmlResponse response("<!DOCTYPE a [<!ATTLIST a k CDATA 'default'>]><a/>", "");
+    EXPECT_TRUE(response.getAttribute("k", "/a").isNull());
+    EXPECT_TRUE(response.view("/a").attribute("k").isNull());
+    EXPECT_TRUE(response.get("/a").element.attribute("k", QString()).isNull());
+}
 
 TEST(XmlResponseDtd, entitiesAreNotExpanded)
 {

@@ -236,13 +236,28 @@ private:
 /// - text beside the document element;
 /// - elements that are nested more than 256 levels deep.
 ///
-/// Tolerated are ill-formed UTF-8 (each bad sequence reads as U+FFFD), NUL characters (read as U+FFFD, ignored at the
-/// end of the reply), white space before the XML declaration, a repeated attribute (the first counts) and references
-/// to unknown entities (they stay as written); a reference to 0, to a surrogate or beyond Unicode reads as U+FFFD, one
-/// to any other character as that, and control characters stay as they are. Entities that a DTD declares are never
-/// expanded, and nothing outside the bytes is ever opened. A byte order mark decides the encoding, or the zero bytes of
-/// UTF-16 and UTF-32, else the XML declaration; without any of these, or if the declaration cannot be right, the bytes
-/// are read as UTF-8. A surrogate of UTF-16 or UTF-32 that is none of a pair reads as a question mark.
+/// Tolerated is what devices send all the same, though no XML document may hold it:
+/// - ill-formed UTF-8: each bad sequence reads as U+FFFD;
+/// - NUL characters, which read as U+FFFD and are ignored at the end of the reply, and other characters that XML
+///   forbids, which stay as they are;
+/// - `&` that starts no reference, and references to unknown entities: they stay as written;
+/// - references to what XML forbids: one to 0, to a surrogate or beyond Unicode reads as U+FFFD, one to any other
+///   character as that;
+/// - `<` in the value of an attribute, and `]]>` in text: they stay as they are;
+/// - a repeated attribute: the first counts;
+/// - prefixes that are not declared, colons anywhere in a name, and any character beyond ASCII in it: the local name is
+///   what stands behind the first colon. If that is nothing, as in `<A:/>`, no path leads there;
+/// - `--` in comments, and any form of processing instructions behind the first letter of their name;
+/// - XML declarations of any form, wherever a processing instruction may stand;
+/// - DTDs before and behind the document element, of any form that shows where they end.
+///
+/// White space is what XML calls so: blanks, tabs and line ends. A piece of text that is nothing else counts as none,
+/// also if it was written with references; one of U+00A0 counts, which QDomDocument would leave out. DTDs are skipped:
+/// the entities and attributes that they declare are not known, and nothing outside the bytes is ever opened.
+///
+/// A byte order mark decides the encoding, or the zero bytes of UTF-16 and UTF-32, else the XML declaration at the
+/// start; without any of these, or if the declaration cannot be right, the bytes are read as UTF-8. A surrogate of
+/// UTF-16 or UTF-32 that is none of a pair reads as a question mark.
 ///
 /// Copies share the parsed document, which never changes. Each object belongs to one thread at a time; copies of one
 /// object may be used on different threads at once.
