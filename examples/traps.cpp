@@ -1,7 +1,9 @@
+#include <vorn/onvif/compare.h>
 #include <vorn/onvif/configurations.h>
 #include <vorn/onvif/device.h>
 #include <vorn/onvif/faults.h>
 #include <vorn/onvif/network.h>
+#include <vorn/onvif/paths.h>
 #include <vorn/onvif/profiles.h>
 #include <vorn/onvif/relays.h>
 
@@ -41,7 +43,7 @@ Q_SIGNALS:
     void profileChanged();
 };
 
-// Right: a setter that asks nothing.
+// Right: a setter that compares all fields.
 class RightCamera : public QObject
 {
     Q_OBJECT
@@ -50,11 +52,16 @@ class RightCamera : public QObject
 public:
     OnvifProfile profile() const { return m_profile; }
 
+    //! [setter]
     void setProfile(const OnvifProfile &profile)
     {
+        if (vorn::sameContent(m_profile, profile))
+            return;
         m_profile = profile;
         Q_EMIT profileChanged();
     }
+
+    //! [setter]
 
 Q_SIGNALS:
     void profileChanged();
@@ -80,7 +87,8 @@ void equality(QTextStream &out, const QByteArray &)
     out << "QVariant finds "
         << (QVariant::fromValue(before) == QVariant::fromValue(after) ? "no change\n" : "a change\n");
 
-    // Right: compare what the program depends on.
+    // Right: compare all fields, or those that the program depends on.
+    out << "sameContent() finds " << (vorn::sameContent(before, after) ? "no change\n" : "a change\n");
     out << "the names show " << (before.name == after.name ? "no change\n" : "a change\n");
     //! [equality]
 }
@@ -151,7 +159,7 @@ void hash(QTextStream &out, const QByteArray &)
 void null(QTextStream &out, const QByteArray &bytes)
 {
     //! [null]
-    const OnvifProfile profile(bytes, "/Envelope/Body/GetProfileResponse");
+    const OnvifProfile profile(bytes, vorn::paths::GetProfileResponse);
     const vorn::OnvifNetworkGateway gateway(bytes);
     vorn::OnvifRelayOutput relay;
     relay.token = "relay_1";
@@ -269,21 +277,21 @@ void constant(QTextStream &out, const QByteArray &bytes)
 // Wrong: the response is gone when the node is asked, and with it what element looks at. Never called here.
 [[maybe_unused]] qsizetype wrongCount(const QByteArray &bytes)
 {
-    const vorn::XmlResponseNode node = vorn::XmlResponse(bytes, "/Envelope/Body/GetProfilesResponse").get("/Profiles");
+    const vorn::XmlResponseNode node = vorn::XmlResponse(bytes, vorn::paths::GetProfilesResponse).get("/Profiles");
     return node.element.childNodes().count();
 }
 
 // Right: keep the response as long as its nodes, or ask a node for what is its own.
 qsizetype rightCount(const QByteArray &bytes)
 {
-    vorn::XmlResponse response(bytes, "/Envelope/Body/GetProfilesResponse");
+    vorn::XmlResponse response(bytes, vorn::paths::GetProfilesResponse);
     const vorn::XmlResponseNode node = response.get("/Profiles");
     return node.element.childNodes().count();
 }
 
 qsizetype ownCount(const QByteArray &bytes)
 {
-    const vorn::XmlResponseNode node = vorn::XmlResponse(bytes, "/Envelope/Body/GetProfilesResponse").get("/Profiles");
+    const vorn::XmlResponseNode node = vorn::XmlResponse(bytes, vorn::paths::GetProfilesResponse).get("/Profiles");
     return node.children.size();
 }
 
@@ -297,7 +305,7 @@ void nodes(QTextStream &out, const QByteArray &bytes)
 void names(QTextStream &out, const QByteArray &bytes)
 {
     //! [names]
-    vorn::XmlResponse response(bytes, "/Envelope/Body/GetProfilesResponse");
+    vorn::XmlResponse response(bytes, vorn::paths::GetProfilesResponse);
     const vorn::XmlResponseNode node = response.get("/Profiles");
 
     // Wrong: Qt's DOM takes the prefix for part of the name.
@@ -316,7 +324,7 @@ static_assert(!std::is_assignable_v<vorn::OnvifProfileVector &, QList<OnvifProfi
 void lists(QTextStream &out, const QByteArray &bytes)
 {
     //! [lists]
-    vorn::OnvifProfileVector profiles(bytes, "/Envelope/Body/GetProfilesResponse");
+    vorn::OnvifProfileVector profiles(bytes, vorn::paths::GetProfilesResponse);
     const QList<OnvifProfile> rest = profiles.mid(1); // a plain QList, which has no response
     profiles.removeFirst();
 

@@ -1,4 +1,6 @@
+#include <vorn/onvif/compare.h>
 #include <vorn/onvif/faults.h>
+#include <vorn/onvif/paths.h>
 #include <vorn/onvif/profiles.h>
 
 #include <QtCore/QAbstractTableModel>
@@ -24,8 +26,8 @@ public:
             beginResetModel();
             m_profiles = profiles;
             endResetModel();
-        } else if (!profiles.isEmpty()) {
-            m_profiles = profiles; // what the rows show may be another all the same
+        } else if (!vorn::sameContent(m_profiles, profiles)) {
+            m_profiles = profiles;
             Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, Columns - 1));
         }
     }
@@ -89,7 +91,7 @@ public:
     void takeProfiles(const QByteArray &bytes)
     {
         const vorn::OnvifFault fault(bytes, "GetProfiles", 0);
-        const vorn::OnvifProfileVector profiles(bytes, "/Envelope/Body/GetProfilesResponse");
+        const vorn::OnvifProfileVector profiles(bytes, vorn::paths::GetProfilesResponse);
         if (fault.hasError()) {
             setComplaint(fault.toString());
         } else if (profiles.response.view("").isNull()) {
