@@ -160,6 +160,25 @@ TEST(Flood, ofCamerasIsCutOffAndSaid)
         "camera-report: More answered than are taken note of, which is 4096 cameras, or 16 MiB of what they say.\n");
 }
 
+TEST(Flood, ofCamerasThatSayMuchIsCutOffSooner)
+{
+    Searcher searcher({"--timeout", "3600"});
+    QElapsedTimer timer;
+    timer.start();
+    // 30 KB each, as UTF-16.
+    const QByteArray name = "/name/" + QByteArray(15000, 'N');
+    int number = 0;
+    while (!searcher.process().waitForFinished(1) && timer.elapsed() < test::patience) {
+        for (int count = 0; count < 8; ++count)
+            searcher.send(probeMatch(++number % 60000 + 1).replace("/name/N", name));
+    }
+    ASSERT_EQ(searcher.process().state(), QProcess::NotRunning);
+    EXPECT_EQ(searcher.process().exitCode(), 1);
+    const qsizetype cameras = searcher.process().readAllStandardOutput().count('\n');
+    EXPECT_GT(cameras, 500);
+    EXPECT_LT(cameras, 560);
+}
+
 /// A reply to GetSystemDateAndTime that tells \a year.
 QByteArray clockOf(int year)
 {

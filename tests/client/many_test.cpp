@@ -1,5 +1,6 @@
 // Many cameras side by side.
 
+#include "client/fakeserver.h"
 #include "client/programs.h"
 #include "client/terminal.h"
 
@@ -106,6 +107,21 @@ TEST(Many, areNotHeldUpByThoseThatAreSilent)
     EXPECT_EQ(process.state(), QProcess::Running);
     ASSERT_EQ(kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
     EXPECT_EQ(test::resultOf(process).exitCode, 130);
+}
+
+TEST(Many, areAskedOneAfterTheOtherWhereTheUserWantsThat)
+{
+    QByteArray asked;
+    // Where the machine keeps a camera waiting for long, the next one is asked beside it.
+    for (int run = 0; run < 5 && asked != "aaaaaaaabbbbbbbbcccccccc"; ++run) {
+        test::FakeServer server([](const QByteArray &) { return test::httpReply("404 Not Found", ""); });
+        const QString url = "http://" + server.address();
+        report(addressArguments({url + "/a", url + "/b", url + "/c"}) + QStringList{"--jobs", "1", "--timeout", "60"});
+        asked.clear();
+        for (const QByteArray &request : server.requests())
+            asked += request.mid(6, 1); // of "POST /a"
+    }
+    EXPECT_EQ(asked, "aaaaaaaabbbbbbbbcccccccc");
 }
 
 TEST(Many, haveATimeLimitEach)
