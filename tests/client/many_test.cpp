@@ -160,7 +160,10 @@ TEST(Progress, isShownAtATerminal)
     terminal.giveTo(process, true);
     process.start(QStringLiteral(REPORT_PROGRAM),
                   addressArguments(devices.addresses() + failing.addresses()) + QStringList{"--timeout", "60"});
-    EXPECT_TRUE(terminal.shownUntil("3 of 3 done, 1 failed").contains("\r\033[K0 of 3 done, 0 failed"));
+    const QByteArray end = "\r\033[K3 of 3 done, 1 failed";
+    const QByteArray shown = terminal.shownUntil(end);
+    EXPECT_TRUE(shown.contains("\r\033[K0 of 3 done, 0 failed")) << shown.toStdString();
+    EXPECT_TRUE(shown.contains(end)) << shown.toStdString();
     EXPECT_EQ(test::resultOf(process).exitCode, 1);
 }
 
