@@ -38,9 +38,17 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime} (= ${PROJECT_VERSION})")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
     "${details}\n\nThis package holds onvif-inspect, which shows what is in a reply.")
 
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_NAME libvornsdk-onvif-doc)
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_SECTION doc)
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_SUGGESTS libvornsdk-onvif-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS libvornsdk-onvif-doc)
+set(CPACK_COMPONENT_DOCUMENTATION_DESCRIPTION
+    "${details}\n\nThis package holds examples, replies to try them with, and the documentation.")
+
 # Debian wants to know in each package what has changed and under which terms it may be used.
 configure_file(${CMAKE_CURRENT_LIST_DIR}/debian/changelog.in ${debian}/changelog @ONLY)
-foreach(component IN ITEMS Runtime Development Tools)
+foreach(component IN ITEMS Runtime Development Tools Documentation)
     string(TOUPPER ${component} upper)
     set(name ${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
     install(FILES ${debian}/changelog ${CMAKE_CURRENT_LIST_DIR}/debian/copyright
@@ -48,6 +56,14 @@ foreach(component IN ITEMS Runtime Development Tools)
         COMPONENT ${component}
         EXCLUDE_FROM_ALL)
 endforeach()
+
+if(TARGET vornsdk-docs)
+    install(FILES ${CMAKE_CURRENT_LIST_DIR}/debian/doc-base
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc-base
+        RENAME ${CPACK_DEBIAN_DOCUMENTATION_PACKAGE_NAME}
+        COMPONENT Documentation
+        EXCLUDE_FROM_ALL)
+endif()
 
 # Compresses them, and the manual pages.
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/debian/compress.cmake)

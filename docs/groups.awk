@@ -4,6 +4,6 @@ FNR == 1 {
     sub(/.*\//, "", group)
     sub(/\.h$/, "", group)
 }
-/^namespace vorn \{/ { $0 = $0 " /** \\addtogroup " group " */ /** @{ */" }
-/^\} \/\/ namespace vorn/ { $0 = "/** @} */ " $0 }
+/^namespace vorn(::paths)? \{/ { $0 = $0 " /** \\addtogroup " group " */ /** @{ */" }
+/^\} \/\/ namespace vorn(::paths)?$/ { $0 = "/** @} */ " $0 }
 { print }

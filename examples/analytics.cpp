@@ -1,4 +1,5 @@
 #include <vorn/onvif/configurations.h>
+#include <vorn/onvif/paths.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QTextStream>
@@ -13,7 +14,7 @@ int main(int argc, char **argv)
     QTextStream out(stdout);
 
     const vorn::OnvifVideoAnalyticsConfigurationVector list(reply.readAll(),
-                                                            "/Envelope/Body/GetVideoAnalyticsConfigurationsResponse");
+                                                            vorn::paths::GetVideoAnalyticsConfigurationsResponse);
     for (const vorn::OnvifVideoAnalyticsConfiguration &configuration : list) {
         out << configuration.token << '\n';
         for (const vorn::OnvifAnalyticsModule &module : configuration.analyticsEngineConfiguration)

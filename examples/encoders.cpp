@@ -1,4 +1,5 @@
 #include <vorn/onvif/configurations.h>
+#include <vorn/onvif/paths.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QTextStream>
@@ -13,7 +14,7 @@ int main(int argc, char **argv)
     QTextStream out(stdout);
 
     const vorn::OnvifVideoEncoderConfigurationVector encoders(reply.readAll(),
-                                                              "/Envelope/Body/GetVideoEncoderConfigurationsResponse");
+                                                              vorn::paths::GetVideoEncoderConfigurationsResponse);
     for (const vorn::OnvifVideoEncoderConfiguration &encoder : encoders) {
         out << encoder.token << ": " << encoder.encoding;
         if (encoder.resolution.isValid())

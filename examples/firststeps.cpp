@@ -20,8 +20,8 @@ int main(int argc, char **argv)
         return 0;
     }
 
-    vorn::OnvifDeviceInformation device(bytes);
-    if (!device.response.get("").valid) {
+    const vorn::OnvifDeviceInformation device(bytes);
+    if (device.response.view("").isNull()) {
         out << "The device gave no answer that can be read.\n";
         return 0;
     }

@@ -1,3 +1,4 @@
+#include <vorn/onvif/paths.h>
 #include <vorn/util/xmlresponse.h>
 
 #include <QtCore/QFile>
@@ -12,11 +13,11 @@ int main(int argc, char **argv)
         return 1;
     QTextStream out(stdout);
 
-    vorn::XmlResponse response(reply.readAll(), "/Envelope/Body/GetHostnameResponse/HostnameInformation");
-    const QString name = response.getText("/Name");
+    vorn::XmlResponse response(reply.readAll(), vorn::paths::GetHostnameResponse);
+    const QString name = response.getText("/HostnameInformation/Name");
     if (name.isNull())
         out << "no name\n";
     else
-        out << name << (response.getBool("/FromDHCP") ? ", from DHCP\n" : ", set by hand\n");
+        out << name << (response.getBool("/HostnameInformation/FromDHCP") ? ", from DHCP\n" : ", set by hand\n");
     return 0;
 }

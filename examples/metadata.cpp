@@ -1,4 +1,5 @@
 #include <vorn/onvif/configurations.h>
+#include <vorn/onvif/paths.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QTextStream>
@@ -12,7 +13,7 @@ int main(int argc, char **argv)
         return 1;
     QTextStream out(stdout);
 
-    vorn::XmlResponse response(reply.readAll(), "/Envelope/Body/GetMetadataConfigurationsResponse");
+    vorn::XmlResponse response(reply.readAll(), vorn::paths::GetMetadataConfigurationsResponse);
     const QList<vorn::XmlResponseNode> nodes = response.getAll("/Configurations");
     for (const vorn::XmlResponseNode &node : nodes) {
         const vorn::OnvifMetadataConfiguration metadata(node);

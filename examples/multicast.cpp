@@ -1,4 +1,5 @@
 #include <vorn/onvif/configurations.h>
+#include <vorn/onvif/paths.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QTextStream>
@@ -13,7 +14,7 @@ int main(int argc, char **argv)
     QTextStream out(stdout);
 
     vorn::OnvifVideoEncoderConfigurationVector encoders(reply.readAll(),
-                                                        "/Envelope/Body/GetVideoEncoderConfigurationsResponse");
+                                                        vorn::paths::GetVideoEncoderConfigurationsResponse);
     out << encoders.size() << " encoders\n";
 
     // The records do not keep the multicast settings; the reply does.

@@ -1,4 +1,5 @@
 #include <vorn/onvif/network.h>
+#include <vorn/onvif/paths.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QTextStream>
@@ -12,7 +13,7 @@ int main(int argc, char **argv)
         return 1;
     QTextStream out(stdout);
 
-    const vorn::OnvifNetworkInterfaceVector interfaces(reply.readAll(), "/Envelope/Body/GetNetworkInterfacesResponse");
+    const vorn::OnvifNetworkInterfaceVector interfaces(reply.readAll(), vorn::paths::GetNetworkInterfacesResponse);
     for (const vorn::OnvifNetworkInterface &card : interfaces) {
         out << card.name << ' ' << card.hwAddress << (card.enabled ? "\n" : ", off\n");
         if (card.operSettings.present)

@@ -1,3 +1,4 @@
+#include <vorn/onvif/paths.h>
 #include <vorn/onvif/profiles.h>
 
 #include <QtCore/QFile>
@@ -12,7 +13,7 @@ int main(int argc, char **argv)
         return 1;
     QTextStream out(stdout);
 
-    const vorn::OnvifProfile profile(reply.readAll(), "/Envelope/Body/CreateProfileResponse");
+    const vorn::OnvifProfile profile(reply.readAll(), vorn::paths::CreateProfileResponse);
     if (profile.token.isEmpty())
         out << "no profile\n"; // isNull() does not tell: it is false
     else

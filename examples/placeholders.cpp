@@ -1,3 +1,4 @@
+#include <vorn/onvif/paths.h>
 #include <vorn/onvif/placeholderstring.h>
 #include <vorn/onvif/profiles.h>
 
@@ -28,7 +29,7 @@ int main(int argc, char **argv)
         return 1;
     QTextStream out(stdout);
 
-    const vorn::OnvifProfileVector profiles(reply.readAll(), "/Envelope/Body/GetProfilesResponse");
+    const vorn::OnvifProfileVector profiles(reply.readAll(), vorn::paths::GetProfilesResponse);
     for (const vorn::OnvifProfile &profile : profiles)
         out << streamRequest(profile.token) << '\n';
     return 0;

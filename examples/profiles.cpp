@@ -1,3 +1,4 @@
+#include <vorn/onvif/paths.h>
 #include <vorn/onvif/profiles.h>
 
 #include <QtCore/QFile>
@@ -13,7 +14,7 @@ int main(int argc, char **argv)
         return 1;
     QTextStream out(stdout);
 
-    vorn::OnvifProfileVector profiles(reply.readAll(), "/Envelope/Body/GetProfilesResponse");
+    vorn::OnvifProfileVector profiles(reply.readAll(), vorn::paths::GetProfilesResponse);
     for (const vorn::OnvifProfile &profile : std::as_const(profiles)) {
         out << profile.token << ": " << profile.name << (profile.fixed ? ", cannot be deleted\n" : "\n");
         if (!profile.videoEncoder.isNull())

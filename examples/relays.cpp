@@ -1,3 +1,4 @@
+#include <vorn/onvif/paths.h>
 #include <vorn/onvif/relays.h>
 
 #include <QtCore/QFile>
@@ -12,7 +13,7 @@ int main(int argc, char **argv)
         return 1;
     QTextStream out(stdout);
 
-    const vorn::OnvifRelayOutputVector relays(reply.readAll(), "/Envelope/Body/GetRelayOutputsResponse");
+    const vorn::OnvifRelayOutputVector relays(reply.readAll(), vorn::paths::GetRelayOutputsResponse);
     for (const vorn::OnvifRelayOutput &relay : relays) {
         out << relay.token << ": " << vPrintable(relay.mode);
         if (relay.mode == vorn::OnvifRelayOutput::Monostable)

@@ -1,3 +1,4 @@
+#include <vorn/onvif/paths.h>
 #include <vorn/util/xmlresponse.h>
 
 #include <QtCore/QFile>
@@ -13,7 +14,8 @@ int main(int argc, char **argv)
     QTextStream out(stdout);
 
     const QByteArray bytes = reply.readAll();
-    const vorn::XmlResponse response(bytes, "/Envelope/Body/GetVideoSourcesResponse");
+    //! [views]
+    const vorn::XmlResponse response(bytes, vorn::paths::GetVideoSourcesResponse);
     if (response.view("").isNull())
         out << "no answer to GetVideoSources\n";
     for (const vorn::XmlElementView source : response.viewAll("/VideoSources")) {
@@ -26,5 +28,6 @@ int main(int argc, char **argv)
                 out << "  " << setting.name() << ' ' << setting.toDouble() << '\n';
         }
     }
+    //! [views]
     return 0;
 }

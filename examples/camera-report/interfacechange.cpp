@@ -1,5 +1,7 @@
 #include "interfacechange.h"
 
+#include <vorn/onvif/paths.h>
+
 #include <QtCore/QStringList>
 #include <QtNetwork/QHostAddress>
 
@@ -74,7 +76,7 @@ void InterfaceChanger::start()
         const QString complaint = complaintAbout(answer);
         if (!complaint.isEmpty())
             return m_done({}, complaint);
-        change(vorn::OnvifNetworkInterfaceVector(answer.bytes, "/Envelope/Body/GetNetworkInterfacesResponse"));
+        change(vorn::OnvifNetworkInterfaceVector(answer.bytes, vorn::paths::GetNetworkInterfacesResponse));
     });
 }
 

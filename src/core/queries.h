@@ -31,7 +31,7 @@ inline void readQueries(const RecordElement &element, std::initializer_list<Chil
         readFirstChildren(element, queries);
     } else {
         for (const ChildReader &query : queries)
-            query.read(element.at(QLatin1Char('/') + query.name), query.target);
+            query.read(element.at(QLatin1Char('/') % query.name), query.target);
     }
 }
 

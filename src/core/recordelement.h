@@ -7,6 +7,7 @@
 #include <QtCore/QAnyStringView>
 #include <QtCore/QByteArrayView>
 #include <QtCore/QString>
+#include <QtCore/QStringBuilder>
 
 #include <type_traits>
 #include <utility>
@@ -19,9 +20,9 @@ class QueriedElement
 public:
     QueriedElement() = default;
 
-    QueriedElement(XmlResponse &response, const QString &path)
+    QueriedElement(XmlResponse &response, QString path)
         : m_response(&response)
-        , m_path(path)
+        , m_path(std::move(path))
     {
     }
 
@@ -41,7 +42,12 @@ public:
 
     QString attribute(const QString &name) const { return m_response->getAttribute(name, m_path); }
 
-    QueriedElement at(const QString &path) const { return {*m_response, m_path + path}; }
+    /// \a path may still be one that is put together.
+    template <typename Path>
+    QueriedElement at(const Path &path) const
+    {
+        return {*m_response, m_path % path};
+    }
 
 private:
     XmlResponse *m_response = nullptr;
@@ -78,8 +84,8 @@ public:
     {
     }
 
-    RecordElement(const View &view)
-        : m_view(view)
+    RecordElement(View view)
+        : m_view(std::move(view))
     {
     }
 
@@ -96,7 +102,11 @@ public:
     QString attribute(const QString &name) const;
 
     /// The element at \a path below one that elementAt() gave.
-    RecordElement at(const QString &path) const { return m_view.at(path); }
+    template <typename Path>
+    RecordElement at(const Path &path) const
+    {
+        return m_view.at(path);
+    }
 
     /// Calls \a visit with the local name of each child, of a type that can be compared with a QLatin1String, and the
     /// child, in document order.

@@ -65,7 +65,6 @@ struct TextCode
 {
     std::string_view text; ///< what the sentence contains
     OnvifFault::FaultType type;
-    const char *name;     ///< of the type
     const char *sentence; ///< null: unknownError
 };
 
@@ -429,40 +428,37 @@ inline constexpr SoapCode soapCodes[] = {
 
 /// HTTP failures, told by a page's title, a reason or a transport. The first text that is contained counts.
 inline constexpr TextCode httpCodes[] = {
-    {"400", OnvifFault::HttpBadRequest, "HttpBadRequest",
-     QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 400: Bad Request.")},
-    {"401", OnvifFault::HttpUnauthorised, "HttpUnauthorised",
-     QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 401: Unauthorised.")},
-    {"404", OnvifFault::HttpNotFound, "HttpNotFound", nullptr},
-    {"405", OnvifFault::HttpMethodNotAllowed, "HttpMethodNotAllowed",
+    {"400", OnvifFault::HttpBadRequest, QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 400: Bad Request.")},
+    {"401", OnvifFault::HttpUnauthorised, QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 401: Unauthorised.")},
+    {"404", OnvifFault::HttpNotFound, nullptr},
+    {"405", OnvifFault::HttpMethodNotAllowed,
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 405: Method Not Allowed.")},
-    {"415", OnvifFault::HttpUnsupportedMedia, "HttpUnsupportedMedia",
+    {"415", OnvifFault::HttpUnsupportedMedia,
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "HTTP Error 415: Unsupported Media.")},
 };
 
 /// Transport failures. The first text that is contained counts, and each of them before any HTTP failure.
 inline constexpr TextCode transportCodes[] = {
-    {"URL using bad/illegal format or missing URL", OnvifFault::BadUrl, "BadUrl",
+    {"URL using bad/illegal format or missing URL", OnvifFault::BadUrl,
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "URL using bad/illegal format or missing URL.")},
-    {"Failure when receiving data from the peer", OnvifFault::ReceiveFailure, "ReceiveFailure",
+    {"Failure when receiving data from the peer", OnvifFault::ReceiveFailure,
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Failure when receiving data from the peer.")},
-    {"Empty reply from Camera", OnvifFault::EmptyReply, "EmptyReply",
+    {"Empty reply from Camera", OnvifFault::EmptyReply,
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Empty reply from Camera")},
-    {"Transferred a partial file", OnvifFault::PartialFile, "PartialFile",
+    {"Transferred a partial file", OnvifFault::PartialFile,
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Transferred a partial file.")},
-    {"Couldn't resolve host name", OnvifFault::HostNotResolved, "HostNotResolved",
+    {"Couldn't resolve host name", OnvifFault::HostNotResolved,
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Couldn't resolve host name.")},
-    {"Unsupported protocol", OnvifFault::UnsupportedProtocol, "UnsupportedProtocol",
+    {"Unsupported protocol", OnvifFault::UnsupportedProtocol,
      QT_TRANSLATE_NOOP("vorn::OnvifFault", "Unsupported protocol.")},
 };
 
 /// What is told by no text of its own.
 inline constexpr TextCode otherCodes[] = {
-    {"", OnvifFault::NoFault, "NoFault", QT_TRANSLATE_NOOP("vorn::OnvifFault", "No error.")},
-    {"", OnvifFault::UnknownSoapCode, "UnknownSoapCode", nullptr},
-    {"", OnvifFault::UnknownHttpError, "UnknownHttpError",
-     QT_TRANSLATE_NOOP("vorn::OnvifFault", "Unknown HTTP Error.")},
-    {"", OnvifFault::UnknownTransportError, "UnknownTransportError", nullptr},
+    {"", OnvifFault::NoFault, QT_TRANSLATE_NOOP("vorn::OnvifFault", "No error.")},
+    {"", OnvifFault::UnknownSoapCode, nullptr},
+    {"", OnvifFault::UnknownHttpError, QT_TRANSLATE_NOOP("vorn::OnvifFault", "Unknown HTTP Error.")},
+    {"", OnvifFault::UnknownTransportError, nullptr},
 };
 
 /// The sentence of OnvifFault::FixedUser where the request was to delete users.

@@ -3,8 +3,6 @@
 #include "xmlnames.h"
 #include "xmltext.h"
 
-#include <QtCore/QVarLengthArray>
-
 #include <cstddef>
 #include <new>
 
@@ -116,15 +114,12 @@ void NodeBuilder::appendContent(XmlResponseNode &node, pugi::xml_node source)
     if (isCharacterData(pugi::node_pcdata, ownText))
         append(node.element, m_owner.createTextNode({}), value(ownText));
 
-    QVarLengthArray<pugi::xml_node, 16> content; // walked over twice, to know how much room the elements need
     qsizetype elementCount = 0;
-    for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling()) {
-        content.append(child);
+    for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling())
         elementCount += child.type() == pugi::node_element ? 1 : 0;
-    }
     if (elementCount > 0)
         node.children.reserve(elementCount);
-    for (const pugi::xml_node &child : content) {
+    for (pugi::xml_node child = source.first_child(); child; child = child.next_sibling()) {
         if (child.type() == pugi::node_element) {
             XmlResponseNode &childNode = node.children.emplaceBack();
             fill(childNode, child);

@@ -60,27 +60,11 @@ inline unsigned int toUInt(QByteArrayView utf8)
     return toInteger<unsigned int>(utf8.begin(), utf8.end());
 }
 
-/// Whether each of \a characters is a digit, a point or, in the first place, a minus: as in nearly all numbers. What Qt
-/// makes of these is the same in all versions.
-template <typename Character>
-bool isPlainDecimal(const Character *characters, qsizetype size)
-{
-    if (size == 0 || size > 32)
-        return false;
-    for (qsizetype i = 0; i < size; ++i) {
-        const Character c = characters[i];
-        const bool isDigit = c >= '0' && c <= '9';
-        if (!isDigit && c != '.' && (c != '-' || i > 0))
-            return false;
-    }
-    return true;
-}
-
 /// The value of a number that is written as [sign] digits [. digits] [e [sign] digits], where the digits before or
 /// behind the point may be missing, or as "inf", "nan" or one of these with a sign that it may have. Letters may be of
 /// any case, U+2212 is a minus too, and white space of any kind may stand around the whole. Beyond the range of double
 /// it is infinite.
-inline double toDoubleOfAnyForm(QStringView text)
+inline double toDouble(QStringView text)
 {
     QVarLengthArray<char, 64> number;
     for (const QChar character : text.trimmed()) {
@@ -123,25 +107,28 @@ inline double toDoubleOfAnyForm(QStringView text)
     return edge == 0 ? 0 : edge;
 }
 
-/// QString::toDouble() first brings the text into the form of the C locale. That takes ten times as long as the
-/// conversion and is for nothing in a plain decimal.
-inline double toDouble(QStringView text)
+/// Whether each of the characters is a digit, a point or, in the first place, a minus. What Qt makes of these is the
+/// same in all versions.
+inline bool isPlainDecimal(QByteArrayView utf8)
 {
-    if (!isPlainDecimal(text.utf16(), text.size()))
-        return toDoubleOfAnyForm(text);
-    char digits[32];
-    for (qsizetype i = 0; i < text.size(); ++i)
-        digits[i] = static_cast<char>(text[i].unicode());
-    return QByteArrayView(digits, text.size()).toDouble();
+    if (utf8.isEmpty() || utf8.size() > 32)
+        return false;
+    for (qsizetype i = 0; i < utf8.size(); ++i) {
+        const char c = utf8[i];
+        const bool isDigit = c >= '0' && c <= '9';
+        if (!isDigit && c != '.' && (c != '-' || i > 0))
+            return false;
+    }
+    return true;
 }
 
 inline double toDouble(QByteArrayView utf8)
 {
-    if (isPlainDecimal(utf8.data(), utf8.size()))
+    if (isPlainDecimal(utf8)) // as nearly all are
         return utf8.toDouble();
     if (utf8.startsWith("\xEF\xBB\xBF")) // which would be taken for a byte order mark, and is no part of a number
         return 0;
-    return toDoubleOfAnyForm(QString::fromUtf8(utf8));
+    return toDouble(QString::fromUtf8(utf8));
 }
 
 } // namespace vorn

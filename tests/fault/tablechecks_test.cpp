@@ -92,9 +92,9 @@ TEST(FaultTables, areUnambiguousOnAllLevels)
 TEST(FaultTables, haveOneRowForEachType)
 {
     const SoapCode codes[] = {{":A", fault1, nullptr, {}}};
-    const TextCode zero[] = {{"", fault0, "", nullptr}};
-    const TextCode zeroTwice[] = {{"", fault0, "", nullptr}, {"", fault0, "", nullptr}};
-    const TextCode two[] = {{"", fault2, "", nullptr}};
+    const TextCode zero[] = {{"", fault0, nullptr}};
+    const TextCode zeroTwice[] = {{"", fault0, nullptr}, {"", fault0, nullptr}};
+    const TextCode two[] = {{"", fault2, nullptr}};
     const Rows<TextCode> none;
     EXPECT_TRUE(eachStandsInOneRow(fault2, Rows(codes), Rows(zero), Rows(two)));
     EXPECT_FALSE(eachStandsInOneRow(fault2, Rows(codes), Rows(zero), none)) << "the last is missing";

@@ -11,11 +11,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace test {
-
-using Addresses = std::vector<const void *>;
 
 inline void expectEdges(const QRect &rectangle, int left, int top, int right, int bottom)
 {
@@ -72,12 +69,6 @@ struct AnalyticsSample
     }
 
     template <typename Record>
-    static Addresses fields(const Record &r)
-    {
-        return {&r.name, &r.type};
-    }
-
-    template <typename Record>
     static void expectFields(const Record &r, const QString &identity)
     {
         EXPECT_EQ(r.name, identity);
@@ -115,8 +106,6 @@ struct Sample<vorn::OnvifVideoSourceConfiguration> : ConfigurationSample
     static constexpr const char *children = R"(<tt:Name>Door</tt:Name><tt:UseCount>2</tt:UseCount>
         <tt:SourceToken>Sensor</tt:SourceToken><tt:Bounds x="8" y="16" width="640" height="360"/>)";
 
-    static Addresses fields(const Record &r) { return {&r.name, &r.token, &r.useCount, &r.sourceToken, &r.bounds}; }
-
     static void expectFields(const Record &r, const QString &token)
     {
         EXPECT_EQ(r.name, "Door");
@@ -148,12 +137,6 @@ struct Sample<vorn::OnvifVideoEncoderConfiguration> : ConfigurationSample
         <tt:H264><tt:GovLength>50</tt:GovLength><tt:H264Profile>High</tt:H264Profile></tt:H264>
         <tt:Multicast><tt:Port>0</tt:Port></tt:Multicast>
         <tt:SessionTimeout>PT60S</tt:SessionTimeout>)";
-
-    static Addresses fields(const Record &r)
-    {
-        return {&r.name,    &r.token,          &r.encoding,         &r.useCount,     &r.resolution,
-                &r.quality, &r.frameRateLimit, &r.encodingInterval, &r.bitrateLimit, &r.sessionTimeout};
-    }
 
     static void expectFields(const Record &r, const QString &token)
     {
@@ -190,8 +173,6 @@ struct Sample<vorn::OnvifAudioSourceConfiguration> : ConfigurationSample
     static constexpr const char *children =
         "<tt:Name>Voice</tt:Name><tt:UseCount>4</tt:UseCount><tt:SourceToken>Microphone</tt:SourceToken>";
 
-    static Addresses fields(const Record &r) { return {&r.name, &r.token, &r.useCount, &r.sourceToken}; }
-
     static void expectFields(const Record &r, const QString &token)
     {
         EXPECT_EQ(r.name, "Voice");
@@ -215,11 +196,6 @@ struct Sample<vorn::OnvifAudioOutputConfiguration> : ConfigurationSample
     static constexpr const char *children = R"(<tt:Name>Horn</tt:Name><tt:UseCount>5</tt:UseCount>
         <tt:OutputToken>Speaker</tt:OutputToken>
         <tt:SendPrimacy>www.onvif.org/ver20/HalfDuplex/Server</tt:SendPrimacy><tt:OutputLevel>70</tt:OutputLevel>)";
-
-    static Addresses fields(const Record &r)
-    {
-        return {&r.name, &r.token, &r.useCount, &r.outputToken, &r.outputLevel, &r.sendPrimacy};
-    }
 
     static void expectFields(const Record &r, const QString &token)
     {
@@ -248,11 +224,6 @@ struct Sample<vorn::OnvifAudioEncoderConfiguration> : ConfigurationSample
     static constexpr const char *children = R"(<tt:Name>Sound</tt:Name><tt:UseCount>6</tt:UseCount>
         <tt:Encoding>AAC</tt:Encoding><tt:Bitrate>64</tt:Bitrate><tt:SampleRate>16</tt:SampleRate>
         <tt:Multicast><tt:Port>0</tt:Port></tt:Multicast><tt:SessionTimeout>PT30S</tt:SessionTimeout>)";
-
-    static Addresses fields(const Record &r)
-    {
-        return {&r.name, &r.token, &r.encoding, &r.useCount, &r.bitrate, &r.sampleRate, &r.sessionTimeout};
-    }
 
     static void expectFields(const Record &r, const QString &token)
     {
@@ -283,8 +254,6 @@ struct Sample<vorn::OnvifAudioDecoderConfiguration> : ConfigurationSample
     static constexpr const char *title = "AudioDecoder";
     static constexpr const char *children = "<tt:Name>Talk</tt:Name><tt:UseCount>7</tt:UseCount>";
 
-    static Addresses fields(const Record &r) { return {&r.name, &r.token, &r.useCount}; }
-
     static void expectFields(const Record &r, const QString &token)
     {
         EXPECT_EQ(r.name, "Talk");
@@ -303,20 +272,6 @@ struct Sample<vorn::OnvifMetadataConfiguration> : ConfigurationSample
         <tt:PTZStatus><tt:Status>true</tt:Status><tt:Position>true</tt:Position></tt:PTZStatus>
         <tt:Events><tt:Filter>tns1:RuleEngine//.</tt:Filter><tt:SubscriptionPolicy>All</tt:SubscriptionPolicy>
         </tt:Events><tt:Analytics>true</tt:Analytics><tt:SessionTimeout>60</tt:SessionTimeout>)";
-
-    static Addresses fields(const Record &r)
-    {
-        return {&r.name,
-                &r.token,
-                &r.useCount,
-                &r.analytics,
-                &r.sessionTimeout,
-                &r.ptzStatus,
-                &r.ptzPosition,
-                &r.eventsFilter,
-                &r.eventsSubscriptionPolicy,
-                &r.analyticsEngineConfiguration};
-    }
 
     static void expectFields(const Record &r, const QString &token)
     {
@@ -358,12 +313,6 @@ struct Sample<vorn::OnvifPtzConfiguration> : ConfigurationSample
         <tt:ZoomLimits><tt:Range><tt:XRange><tt:Min>0.125</tt:Min><tt:Max>2</tt:Max></tt:XRange></tt:Range>
         </tt:ZoomLimits>)";
 
-    static Addresses fields(const Record &r)
-    {
-        return {&r.name,      &r.token,         &r.defaultPtzTimeout, &r.useCount,
-                &r.nodeToken, &r.panTiltXRange, &r.panTiltYRange,     &r.zoomXRange};
-    }
-
     static void expectFields(const Record &r, const QString &token)
     {
         EXPECT_EQ(r.name, "Dome");
@@ -397,11 +346,6 @@ struct Sample<vorn::OnvifVideoAnalyticsConfiguration> : ConfigurationSample
         </tt:AnalyticsEngineConfiguration>
         <tt:RuleEngineConfiguration><tt:Rule Name="Line" Type="tt:LineDetector"/>
         <tt:Rule Name="Field" Type="tt:FieldDetector"/></tt:RuleEngineConfiguration>)";
-
-    static Addresses fields(const Record &r)
-    {
-        return {&r.name, &r.token, &r.useCount, &r.analyticsEngineConfiguration, &r.ruleEngineConfiguration};
-    }
 
     static void expectFields(const Record &r, const QString &token)
     {

@@ -232,7 +232,6 @@ class Workshop:
             "cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
             "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DVORNSDK_ONVIF_INSTALL=OFF",
             "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",  # a changed library needs no program linked anew
-            f"-DCMAKE_PROJECT_INCLUDE={self.tree}/tests/mutation/precompile.cmake",
         )
         if configured.returncode != 0:
             sys.exit(configured.stdout + configured.stderr + "The configuration failed; its output stands above.")

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Uses the library as programs outside its tree do: installed and moved, found by CMake and by pkg-config, added as a
 # subfolder, shared and static, with GCC and Clang, as C++17, C++20 and C++23, over a utility library of the program's
-# own, and from its Debian packages.
+# own, and from its Debian packages, whose examples print what the documentation says.
 #
 # usage: test.sh SOURCE WORK     SOURCE is the top folder; WORK is emptied and used
 set -euo pipefail
@@ -130,13 +130,12 @@ cp -r "$source/CMakeLists.txt" "$source/cmake" "$work/in-source"
 refuse "a build in the source folder" "Build in a folder of its own" cmake -S "$work/in-source" -B "$work/in-source"
 
 echo "Making the Debian packages"
-quietly cmake -S "$source" -B "$work/debian" -G Ninja -DCMAKE_BUILD_TYPE=Release -DVORNSDK_ONVIF_BUILD_TESTS=OFF \
-    -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_SKIP_INSTALL_RPATH=ON
+quietly cmake --preset package -S "$source" -B "$work/debian"
 quietly cmake --build "$work/debian"
 (cd "$work/debian" && quietly cpack)
 packages=("$work"/debian/*.deb)
 names=$(for package in "${packages[@]}"; do dpkg-deb --field "$package" Package; done)
-[ "$names" = $'libvornsdk-onvif-dev\nlibvornsdk-onvif1\nvornsdk-onvif-tools' ] || { echo "package test: wrong packages: $names" >&2; exit 1; }
+[ "$names" = $'libvornsdk-onvif-dev\nlibvornsdk-onvif-doc\nlibvornsdk-onvif1\nvornsdk-onvif-tools' ] || { echo "package test: wrong packages: $names" >&2; exit 1; }
 quietly lintian --fail-on error "${packages[@]}"
 for package in "${packages[@]}"; do
     dpkg-deb --extract "$package" "$work/root"
@@ -146,4 +145,20 @@ libraries=$(dirname "$(find "$work/root" -name libvornsdk-onvif.so)")
 consume "Debian packages" -DCMAKE_PREFIX_PATH="$work/root/usr" "${strict[@]}"
 quietly env LD_LIBRARY_PATH="$libraries" "$work/root/usr/bin/onvif-inspect" \
     "$source/samples/short-prefixes/GetDeviceInformation.xml"
+documentation=$work/root/usr/share/doc/libvornsdk-onvif-doc
+quietly cmake -S "$documentation/examples" -B "$work/examples" -G Ninja -DCMAKE_PREFIX_PATH="$work/root/usr"
+quietly cmake --build "$work/examples"
+quietly env LD_LIBRARY_PATH="$libraries" ctest --test-dir "$work/examples" --no-tests=error
+echo "  their examples: $(grep 'tests passed' "$work/log")"
+for program in camera-report simulated-device; do
+    quietly env LD_LIBRARY_PATH="$libraries" "$work/examples/bin/$program" --help
+done
+if command -v doxygen >/dev/null; then
+    [ -e "$documentation/html/index.html" ]
+    grep -rqF WrongCamera "$documentation/html" # which the page of traps shows
+    ! grep -rlF -e "$source" -e "$work" "$documentation" || { echo "package test: the above name a folder of the build" >&2; exit 1; }
+    echo "  their HTML: $(find "$documentation/html" -name '*.html' | wc -l) pages"
+else
+    echo "  their HTML: skipped, as doxygen is missing: scripts/setup docs"
+fi
 echo "All package tests passed"

@@ -3,7 +3,6 @@
 #include <vorn/onvif/profiles.h>
 
 #include <algorithm>
-#include <functional>
 #include <type_traits>
 #include <utility>
 
@@ -273,15 +272,13 @@ TEST(OnvifProfile, hasNoText)
     EXPECT_TRUE(read("<Profile token='T1'/>").toString().isNull());
 }
 
-TEST(OnvifProfile, fieldsStandInTheirOrder)
+TEST(OnvifProfile, fieldsStandBehindBothBases)
 {
-    const OnvifProfile p;
-    const OnvifDataStructure &data = p;
-    const OnvifResponseStructure &response = p;
-    const test::Addresses fields = {&data,          &response,      &p.name,         &p.token,        &p.fixed,
-                                    &p.videoSource, &p.audioSource, &p.videoEncoder, &p.audioEncoder, &p.videoAnalytics,
-                                    &p.ptz,         &p.metadata,    &p.audioOutput,  &p.audioDecoder};
-    EXPECT_EQ(std::adjacent_find(fields.begin(), fields.end(), std::greater_equal<>()), fields.end());
+    const OnvifProfile profile;
+    const OnvifDataStructure &data = profile;
+    const OnvifResponseStructure &response = profile;
+    EXPECT_LT(static_cast<const void *>(&data), static_cast<const void *>(&response));
+    EXPECT_LT(static_cast<const void *>(&response), static_cast<const void *>(&profile.name));
 }
 
 TEST(OnvifProfile, isEqualByItsTokenAlone)

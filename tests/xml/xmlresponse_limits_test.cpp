@@ -183,7 +183,7 @@ TEST_P(Forgiven, isReadByQueriesViewsAndNodes)
 }
 
 INSTANTIATE_TEST_SUITE_P(XmlResponse, Forgiven, testing::ValuesIn(forgivenDocuments),
-                         [](const auto &row) { return std::string(row.param.name); });
+                         [](const auto &document) { return std::string(document.param.name); });
 
 TEST(XmlResponseDtd, attributesThatItDeclaresAreNotKnown)
 {

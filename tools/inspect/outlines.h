@@ -2,72 +2,85 @@
 
 #include "outline.h"
 
-#include <vorn/onvif/analytics.h>
-#include <vorn/onvif/configurations.h>
-#include <vorn/onvif/device.h>
-#include <vorn/onvif/discovery.h>
-#include <vorn/onvif/faults.h>
-#include <vorn/onvif/network.h>
-#include <vorn/onvif/profiles.h>
-#include <vorn/onvif/relays.h>
-#include <vorn/onvif/scopes.h>
+#include <vorn/onvif/fields.h>
+
+#include <QtCore/QMultiMap>
+#include <QtCore/QSharedPointer>
+#include <QtCore/QSize>
+#include <QtCore/QString>
 
 #include <type_traits>
+
+class QRect;
 
 /// The outline of each record: its public fields by their names.
 namespace inspect {
 
-Outline outline(const vorn::OnvifDeviceInformation &record);
-Outline outline(const vorn::OnvifCapabilities &record);
-Outline outline(const vorn::OnvifScope &record);
-Outline outline(const vorn::OnvifScopeMap &record);
-Outline outline(const vorn::OnvifCamera &record);
-Outline outline(const vorn::OnvifAnalyticsModule &record);
-Outline outline(const vorn::OnvifRule &record);
-Outline outline(const vorn::OnvifVideoSourceConfiguration &record);
-Outline outline(const vorn::OnvifVideoEncoderConfiguration &record);
-Outline outline(const vorn::OnvifAudioSourceConfiguration &record);
-Outline outline(const vorn::OnvifAudioOutputConfiguration &record);
-Outline outline(const vorn::OnvifAudioEncoderConfiguration &record);
-Outline outline(const vorn::OnvifAudioDecoderConfiguration &record);
-Outline outline(const vorn::OnvifMetadataConfiguration &record);
-Outline outline(const vorn::OnvifPtzConfiguration &record);
-Outline outline(const vorn::OnvifVideoAnalyticsConfiguration &record);
-Outline outline(const vorn::OnvifProfile &record);
-Outline outline(const vorn::OnvifNetworkInterface &record);
-Outline outline(const vorn::OnvifNetworkInterface::PrefixedAddress &address);
-Outline outline(const vorn::OnvifNetworkGateway &record);
-Outline outline(const vorn::OnvifRelayOutput &record);
+/// The outline of \a value: a record, a list, an enumerator or a plain value.
+template <typename Value>
+Outline outline(const Value &value);
+
+/// As the attributes of the reply are, also where an edge has wrapped around.
+Outline outline(const QRect &rectangle);
+
+Outline outline(const QSize &size);
+
+/// The scopes of a camera: the values of each of the four keys.
+Outline outline(const QMultiMap<QString, QString> &scopes);
+
+/// Also whether the profile is saved.
+Outline outline(const vorn::OnvifProfile &profile);
 
 /// The three codes by name, the number of the first, the sentence, and the device's own words.
 Outline outline(const vorn::OnvifFault &fault);
 
-/// The texts or numbers of \a list in order.
-template <typename List>
-Outline outlineOfValues(const List &list)
+/// The outline of \a value; a null record has none.
+template <typename Value>
+Outline outlineUnlessNull(const Value &value)
 {
-    return Outline::List(list.begin(), list.end());
-}
-
-/// The outline of \a record; a null record has none.
-template <typename Record>
-Outline outlineUnlessNull(const Record &record)
-{
-    if constexpr (std::is_base_of_v<vorn::OnvifDataStructure, Record>) {
-        if (record.isNull())
+    if constexpr (std::is_base_of_v<vorn::OnvifDataStructure, Value>) {
+        if (value.isNull())
             return {};
     }
-    return outline(record);
+    return outline(value);
 }
 
-/// The records of \a list in order.
-template <typename List>
-Outline outlineOfRecords(const List &list)
+/// Whether a field points to something of the program's own, which no reply tells.
+template <typename Field>
+inline constexpr bool isOfProgram = std::is_pointer_v<Field>;
+
+template <typename Type>
+inline constexpr bool isOfProgram<QSharedPointer<Type>> = true;
+
+/// The fields of \a record that a reply can tell.
+template <typename Record>
+Outline::Fields fieldsOf(const Record &record)
 {
-    Outline::List entries;
-    for (const auto &entry : list)
-        entries.push_back(outlineUnlessNull(entry));
-    return entries;
+    Outline::Fields fields;
+    vorn::visitFields(
+        [&fields](QLatin1StringView name, const auto &field) {
+            if constexpr (!isOfProgram<std::decay_t<decltype(field)>>)
+                fields.emplace_back(name, outlineUnlessNull(field));
+        },
+        record);
+    return fields;
+}
+
+template <typename Value>
+Outline outline(const Value &value)
+{
+    if constexpr (vorn::hasFields<Value>) {
+        return fieldsOf(value);
+    } else if constexpr (vorn::isList<Value> || vorn::isMap<Value>) {
+        Outline::List entries;
+        for (const auto &entry : value)
+            entries.push_back(outlineUnlessNull(entry));
+        return entries;
+    } else if constexpr (vorn::hasEnumerators<Value>) {
+        return QString(vorn::enumeratorName(value));
+    } else {
+        return value;
+    }
 }
 
 } // namespace inspect

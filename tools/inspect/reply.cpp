@@ -32,18 +32,6 @@ Outline readRecordBelow(const QByteArray &bytes, const QString &root)
     return outline(Record(bytes, root));
 }
 
-template <typename List>
-Outline readList(const QByteArray &bytes, const QString &)
-{
-    return outlineOfRecords(List(bytes));
-}
-
-template <typename List>
-Outline readListBelow(const QByteArray &bytes, const QString &root)
-{
-    return outlineOfRecords(List(bytes, root));
-}
-
 /// The library has no list for this reply, but a record for each of its elements.
 Outline readMetadataConfigurations(const QByteArray &bytes, const QString &root)
 {
@@ -52,7 +40,7 @@ Outline readMetadataConfigurations(const QByteArray &bytes, const QString &root)
     const QList<vorn::XmlResponseNode> nodes = response.getAll(QStringLiteral("/Configurations"));
     for (const vorn::XmlResponseNode &node : nodes)
         list.append(vorn::OnvifMetadataConfiguration(node));
-    return outlineOfRecords(list);
+    return outline(list);
 }
 
 QStringList interfaceRequests(const QByteArray &bytes, const QString &root)
@@ -77,33 +65,35 @@ const Reader readers[] = {
     {"GetCapabilitiesResponse", readRecord<vorn::OnvifCapabilities>},
     {"GetScopesResponse", readRecord<vorn::OnvifScopeMap>},
     {"ProbeMatches", readRecord<vorn::OnvifCamera>},
-    {"GetProfilesResponse", readListBelow<vorn::OnvifProfileVector>},
+    {"GetProfilesResponse", readRecordBelow<vorn::OnvifProfileVector>},
     {"GetProfileResponse", readRecordBelow<vorn::OnvifProfile>, nullptr, noConfigurations},
     {"CreateProfileResponse", readRecordBelow<vorn::OnvifProfile>, nullptr, noConfigurations},
-    {"GetVideoSourceConfigurationsResponse", readListBelow<vorn::OnvifVideoSourceConfigurationVector>},
-    {"GetCompatibleVideoSourceConfigurationsResponse", readList<vorn::OnvifCompatibleVideoSourceConfigurationVector>},
-    {"GetVideoEncoderConfigurationsResponse", readListBelow<vorn::OnvifVideoEncoderConfigurationVector>},
-    {"GetCompatibleVideoEncoderConfigurationsResponse", readList<vorn::OnvifCompatibleVideoEncoderConfigurationVector>},
-    {"GetAudioSourceConfigurationsResponse", readListBelow<vorn::OnvifAudioSourceConfigurationVector>},
-    {"GetCompatibleAudioSourceConfigurationsResponse", readList<vorn::OnvifCompatibleAudioSourceConfigurationVector>},
-    {"GetAudioOutputConfigurationsResponse", readListBelow<vorn::OnvifAudioOutputConfigurationVector>},
-    {"GetCompatibleAudioOutputConfigurationsResponse", readList<vorn::OnvifCompatibleAudioOutputConfigurationVector>},
-    {"GetAudioEncoderConfigurationsResponse", readListBelow<vorn::OnvifAudioEncoderConfigurationVector>},
-    {"GetCompatibleAudioEncoderConfigurationsResponse", readList<vorn::OnvifCompatibleAudioEncoderConfigurationVector>},
-    {"GetAudioDecoderConfigurationsResponse", readListBelow<vorn::OnvifAudioDecoderConfigurationVector>, nullptr,
+    {"GetVideoSourceConfigurationsResponse", readRecordBelow<vorn::OnvifVideoSourceConfigurationVector>},
+    {"GetCompatibleVideoSourceConfigurationsResponse", readRecord<vorn::OnvifCompatibleVideoSourceConfigurationVector>},
+    {"GetVideoEncoderConfigurationsResponse", readRecordBelow<vorn::OnvifVideoEncoderConfigurationVector>},
+    {"GetCompatibleVideoEncoderConfigurationsResponse",
+     readRecord<vorn::OnvifCompatibleVideoEncoderConfigurationVector>},
+    {"GetAudioSourceConfigurationsResponse", readRecordBelow<vorn::OnvifAudioSourceConfigurationVector>},
+    {"GetCompatibleAudioSourceConfigurationsResponse", readRecord<vorn::OnvifCompatibleAudioSourceConfigurationVector>},
+    {"GetAudioOutputConfigurationsResponse", readRecordBelow<vorn::OnvifAudioOutputConfigurationVector>},
+    {"GetCompatibleAudioOutputConfigurationsResponse", readRecord<vorn::OnvifCompatibleAudioOutputConfigurationVector>},
+    {"GetAudioEncoderConfigurationsResponse", readRecordBelow<vorn::OnvifAudioEncoderConfigurationVector>},
+    {"GetCompatibleAudioEncoderConfigurationsResponse",
+     readRecord<vorn::OnvifCompatibleAudioEncoderConfigurationVector>},
+    {"GetAudioDecoderConfigurationsResponse", readRecordBelow<vorn::OnvifAudioDecoderConfigurationVector>, nullptr,
      onlyTheirNumber},
-    {"GetCompatibleAudioDecoderConfigurationsResponse", readList<vorn::OnvifCompatibleAudioDecoderConfigurationVector>,
-     nullptr, onlyTheirNumber},
-    {"GetVideoAnalyticsConfigurationsResponse", readListBelow<vorn::OnvifVideoAnalyticsConfigurationVector>},
+    {"GetCompatibleAudioDecoderConfigurationsResponse",
+     readRecord<vorn::OnvifCompatibleAudioDecoderConfigurationVector>, nullptr, onlyTheirNumber},
+    {"GetVideoAnalyticsConfigurationsResponse", readRecordBelow<vorn::OnvifVideoAnalyticsConfigurationVector>},
     {"GetCompatibleVideoAnalyticsConfigurationsResponse",
-     readList<vorn::OnvifCompatibleVideoAnalyticsConfigurationVector>},
+     readRecord<vorn::OnvifCompatibleVideoAnalyticsConfigurationVector>},
     {"GetMetadataConfigurationsResponse", readMetadataConfigurations},
-    {"GetCompatibleMetadataConfigurationsResponse", readList<vorn::OnvifCompatibleMetadataConfigurationVector>},
-    {"GetConfigurationsResponse", readListBelow<vorn::OnvifPtzConfigurationVector>},
-    {"GetCompatibleConfigurationsResponse", readList<vorn::OnvifCompatiblePtzConfigurationVector>},
-    {"GetNetworkInterfacesResponse", readListBelow<vorn::OnvifNetworkInterfaceVector>, interfaceRequests},
+    {"GetCompatibleMetadataConfigurationsResponse", readRecord<vorn::OnvifCompatibleMetadataConfigurationVector>},
+    {"GetConfigurationsResponse", readRecordBelow<vorn::OnvifPtzConfigurationVector>},
+    {"GetCompatibleConfigurationsResponse", readRecord<vorn::OnvifCompatiblePtzConfigurationVector>},
+    {"GetNetworkInterfacesResponse", readRecordBelow<vorn::OnvifNetworkInterfaceVector>, interfaceRequests},
     {"GetNetworkDefaultGatewayResponse", readRecord<vorn::OnvifNetworkGateway>, gatewayRequests},
-    {"GetRelayOutputsResponse", readListBelow<vorn::OnvifRelayOutputVector>},
+    {"GetRelayOutputsResponse", readRecordBelow<vorn::OnvifRelayOutputVector>},
 };
 
 Reply readBody(const vorn::XmlResponseNode &body, const QByteArray &bytes)

@@ -11,7 +11,7 @@
 
 namespace vorn {
 
-/// Base of the data records: knows whether the record is null and can print it.
+/// Base of the data records: knows whether the record is null, and what part of a request it makes, if it makes one.
 struct VORNSDK_ONVIF_EXPORT OnvifDataStructure
 {
     /// A null record.

@@ -2,11 +2,16 @@
 
 #include <vorn/onvif/analytics.h>
 #include <vorn/onvif/bases.h>
+#include <vorn/onvif/compare.h>
 #include <vorn/onvif/configurations.h>
+#include <vorn/onvif/debug.h>
 #include <vorn/onvif/device.h>
 #include <vorn/onvif/discovery.h>
+#include <vorn/onvif/enumerators.h>
 #include <vorn/onvif/faults.h>
+#include <vorn/onvif/fields.h>
 #include <vorn/onvif/network.h>
+#include <vorn/onvif/paths.h>
 #include <vorn/onvif/placeholderstring.h>
 #include <vorn/onvif/profiles.h>
 #include <vorn/onvif/relays.h>
@@ -62,7 +67,7 @@ int main(int argc, char **argv)
     const QByteArray profilesReply = reply("GetProfiles.xml");
     const vorn::OnvifFault fault(profilesReply, "GetProfiles", 1);
     expect(!fault.hasError(), "a good reply is taken for a fault");
-    vorn::OnvifProfileVector profiles(profilesReply, QStringLiteral("/Envelope/Body/GetProfilesResponse"));
+    vorn::OnvifProfileVector profiles(profilesReply, vorn::paths::GetProfilesResponse);
     expect(profiles.size() == 2, "the profiles are wrong");
     profiles.append(profiles.constFirst());
     std::sort(profiles.begin(), profiles.end(), [](const auto &a, const auto &b) { return a.token < b.token; });
@@ -70,7 +75,7 @@ int main(int argc, char **argv)
     expect(profiles.constFirst().videoAnalytics.ruleEngineConfiguration.size() == 1, "the rules are wrong");
 
     const vorn::OnvifNetworkInterfaceVector interfaces(reply("GetNetworkInterfaces.xml"),
-                                                       QStringLiteral("/Envelope/Body/GetNetworkInterfacesResponse"));
+                                                       vorn::paths::GetNetworkInterfacesResponse);
     const QSet<vorn::OnvifNetworkInterface> set(interfaces.cbegin(), interfaces.cend());
     expect(!set.isEmpty() && set.size() == interfaces.size(), "the interfaces are wrong");
     vorn::OnvifNetworkInterface::LinkSettings settings;
@@ -80,7 +85,17 @@ int main(int argc, char **argv)
     expect(vorn::PlaceHolderString("<a>$@</a>", "$@").arg(7).qStr() == QLatin1String("<a>7</a>"),
            "the template is wrong");
 
-    vorn::XmlResponse response(reply("GetHostname.xml"), QStringLiteral("/Envelope/Body/GetHostnameResponse"));
+    int fields = 0;
+    vorn::visitFields([&fields](QLatin1StringView, const auto &) { ++fields; }, profiles.constFirst());
+    expect(fields == 12, "the fields are wrong");
+    expect(vorn::enumeratorName(fault.faultType) == QLatin1String("NoFault"), "the name of an enumerator is wrong");
+    expect(vorn::sameContent(interfaces, interfaces) && !vorn::sameContent(profiles[0], profiles[2]),
+           "the comparison is wrong");
+    QString text;
+    QDebug(&text) << fault.faultType << interfaces << profiles.constFirst();
+    expect(text.startsWith(QLatin1String("NoFault [OnvifNetworkInterface(name: \"eth0\"")), "the debugging is wrong");
+
+    vorn::XmlResponse response(reply("GetHostname.xml"), vorn::paths::GetHostnameResponse);
     expect(!response.getText(QStringLiteral("/HostnameInformation/Name")).isEmpty(), "the host name is wrong");
 
     std::printf("vornsdk-onvif %s: %s\n", VORNSDK_ONVIF_VERSION_STRING, failures == 0 ? "good" : "bad");
