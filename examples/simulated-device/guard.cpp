@@ -6,6 +6,7 @@
 
 #include <QtCore/QCryptographicHash>
 
+#include <chrono>
 #include <cstdlib>
 
 namespace simulator {
@@ -25,7 +26,7 @@ Guard::Guard(const Options &options)
     : m_kind(options.authentication)
     , m_user(options.user.toUtf8())
     , m_password(options.password.toUtf8())
-    , m_nonces(options.nonceUses)
+    , m_nonces(options.nonceUses, std::chrono::seconds(options.nonceLife))
 {
 }
 

@@ -2,20 +2,17 @@
 
 #include <QtCore/QUuid>
 
-#include <chrono>
-
 namespace simulator {
 namespace {
-
-constexpr std::chrono::minutes life(5);
 
 /// No more are remembered, however often somebody asks.
 constexpr qsizetype mostIssued = 10000;
 
 } // namespace
 
-Nonces::Nonces(int uses)
+Nonces::Nonces(int uses, std::chrono::seconds life)
     : m_uses(uses)
+    , m_life(life)
 {
 }
 
@@ -24,7 +21,7 @@ QByteArray Nonces::issue()
     if (m_inOrder.size() == mostIssued)
         m_issued.remove(m_inOrder.takeFirst());
     const QByteArray nonce = QUuid::createUuid().toByteArray(QUuid::Id128);
-    m_issued.insert(nonce, {QDeadlineTimer(life), {}});
+    m_issued.insert(nonce, {QDeadlineTimer(m_life), {}});
     m_inOrder.append(nonce);
     return nonce;
 }

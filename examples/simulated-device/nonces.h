@@ -6,10 +6,12 @@
 #include <QtCore/QList>
 #include <QtCore/QSet>
 
+#include <chrono>
+
 namespace simulator {
 
 /// The nonces that a device has given out for Digest authentication of HTTP. Each has a count of its own, and an end:
-/// after five minutes, or when it has been used often enough.
+/// after some time, or when it has been used often enough.
 class Nonces
 {
 public:
@@ -20,8 +22,8 @@ public:
         Stale,    ///< the nonce is at its end, or is not known
     };
 
-    /// Each nonce is good for \a uses requests.
-    explicit Nonces(int uses);
+    /// Each nonce is good for \a uses requests within \a life.
+    Nonces(int uses, std::chrono::seconds life);
 
     /// A new one.
     QByteArray issue();
@@ -37,6 +39,7 @@ private:
     };
 
     int m_uses;
+    std::chrono::seconds m_life;
     QHash<QByteArray, Issued> m_issued;
     QList<QByteArray> m_inOrder; ///< the oldest first
 };

@@ -35,6 +35,8 @@ struct Known
     QCommandLineOption password{"password", "The password. Without it: simulated.", "TEXT", "simulated"};
     QCommandLineOption nonceUses{"nonce-uses", "After how many requests a nonce of Digest ends. Without it: 1000.",
                                  "NUMBER", "1000"};
+    QCommandLineOption nonceLife{"nonce-life", "After how many seconds it ends in any case. Without it: 300.",
+                                 "SECONDS", "300"};
     QCommandLineOption clockAhead{"clock-ahead", "By how much the clock is ahead.", "SECONDS", "0"};
     QCommandLineOption listen{"listen", "The IPv4 address to listen at. Without it: 127.0.0.1.", "ADDRESS",
                               "127.0.0.1"};
@@ -47,8 +49,8 @@ struct Known
 
     QList<QCommandLineOption> inOrder() const
     {
-        return {help,   answer, trouble,   auth,    user, password,      nonceUses, clockAhead,
-                listen, port,   probePort, devices, tls,  keepAddresses, record};
+        return {help,       answer, trouble, auth,      user,    password, nonceUses,     nonceLife,
+                clockAhead, listen, port,    probePort, devices, tls,      keepAddresses, record};
     }
 };
 
@@ -111,6 +113,8 @@ QString readAuthentication(const QCommandLineParser &parser, const Known &known,
     options.password = parser.value(known.password);
     if (!readNumber(parser, known.nonceUses, 1, 1000000, options.nonceUses))
         return "--nonce-uses wants a number from 1 to 1000000.";
+    if (!readNumber(parser, known.nonceLife, 0, 1000000, options.nonceLife))
+        return "--nonce-life wants a number of seconds from 0 to 1000000.";
     return {};
 }
 

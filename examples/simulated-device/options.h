@@ -30,6 +30,7 @@ struct Options
     QString user;
     QString password;
     int nonceUses = 0;     ///< how many requests a nonce of Digest is good for
+    int nonceLife = 0;     ///< for how many seconds
     qint64 clockAhead = 0; ///< seconds by which the clock of the device is ahead of this machine's
     QHostAddress listen;
     quint16 port = 0;      ///< of the first device; 0: the system chooses for each

@@ -62,7 +62,7 @@ private:
         server.listen(QHostAddress::LocalHost);
         port.set_value(server.serverPort());
         while (!m_isStopped) {
-            if (!server.waitForNewConnection(turn))
+            if (!server.hasPendingConnections() && !server.waitForNewConnection(turn))
                 continue;
             const std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
             QByteArray request;

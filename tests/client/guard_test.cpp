@@ -81,6 +81,14 @@ TEST(Digest, isStaleAtTheEndOfItsNonce)
     EXPECT_TRUE(late.contains(", stale=true\r\n")) << late.toStdString();
 }
 
+TEST(Digest, isStaleWhenTheTimeOfItsNonceIsOver)
+{
+    const SimulatedDevice device({samples("short-prefixes"), "--auth", "http", "--nonce-life", "0"});
+    const QByteArray late = answerWith(device, challengeFrom(device), 1);
+    EXPECT_EQ(statusOf(late), 401);
+    EXPECT_TRUE(late.contains(", stale=true\r\n")) << late.toStdString();
+}
+
 /// A request with a token of \a nonce and \a created, whose digest is right.
 QByteArray tokenRequest(const QByteArray &nonce, const QByteArray &created)
 {

@@ -133,10 +133,14 @@ TEST(Flood, ofLongAnswersTakesLittleMemory)
 TEST(Flood, ofLongerAnswersIsNotRead)
 {
     Searcher searcher({"--timeout", "3600", "--json"});
+    searcher.process().setReadChannel(QProcess::StandardOutput);
     searcher.send(probeMatch(1, QByteArray("<a/>").repeated(5000)));
-    searcher.send(probeMatch(2));
-    ASSERT_TRUE(searcher.process().waitForReadyRead(test::patience));
-    EXPECT_TRUE(searcher.process().readAllStandardOutput().contains("127.0.0.1:2"));
+    searcher.send(probeMatch(2) + QByteArray(20000, ' ')); // whole also where it is cut off
+    searcher.send(probeMatch(3));
+    while (!searcher.process().canReadLine() && searcher.process().waitForReadyRead(test::patience)) {
+    }
+    const QByteArray first = searcher.process().readLine();
+    EXPECT_TRUE(first.contains("\"127.0.0.1:3\"")) << first.toStdString();
     searcher.process().kill();
     searcher.process().waitForFinished(test::patience);
 }
@@ -158,6 +162,25 @@ TEST(Flood, ofCamerasIsCutOffAndSaid)
     EXPECT_EQ(
         searcher.process().readAllStandardError(),
         "camera-report: More answered than are taken note of, which is 4096 cameras, or 16 MiB of what they say.\n");
+}
+
+TEST(Flood, ofCamerasThatSayMuchIsCutOffSooner)
+{
+    Searcher searcher({"--timeout", "3600"});
+    QElapsedTimer timer;
+    timer.start();
+    // 30 KB each, as UTF-16.
+    const QByteArray name = "/name/" + QByteArray(15000, 'N');
+    int number = 0;
+    while (!searcher.process().waitForFinished(1) && timer.elapsed() < test::patience) {
+        for (int count = 0; count < 8; ++count)
+            searcher.send(probeMatch(++number % 60000 + 1).replace("/name/N", name));
+    }
+    ASSERT_EQ(searcher.process().state(), QProcess::NotRunning);
+    EXPECT_EQ(searcher.process().exitCode(), 1);
+    const qsizetype cameras = searcher.process().readAllStandardOutput().count('\n');
+    EXPECT_GT(cameras, 500);
+    EXPECT_LT(cameras, 560);
 }
 
 /// A reply to GetSystemDateAndTime that tells \a year.

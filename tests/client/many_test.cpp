@@ -1,5 +1,6 @@
 // Many cameras side by side.
 
+#include "client/fakeserver.h"
 #include "client/programs.h"
 #include "client/terminal.h"
 
@@ -108,6 +109,21 @@ TEST(Many, areNotHeldUpByThoseThatAreSilent)
     EXPECT_EQ(test::resultOf(process).exitCode, 130);
 }
 
+TEST(Many, areAskedOneAfterTheOtherWhereTheUserWantsThat)
+{
+    QByteArray asked;
+    // Where the machine keeps a camera waiting for long, the next one is asked beside it.
+    for (int run = 0; run < 5 && asked != "aaaaaaaabbbbbbbbcccccccc"; ++run) {
+        test::FakeServer server([](const QByteArray &) { return test::httpReply("404 Not Found", ""); });
+        const QString url = "http://" + server.address();
+        report(addressArguments({url + "/a", url + "/b", url + "/c"}) + QStringList{"--jobs", "1", "--timeout", "60"});
+        asked.clear();
+        for (const QByteArray &request : server.requests())
+            asked += request.mid(6, 1); // of "POST /a"
+    }
+    EXPECT_EQ(asked, "aaaaaaaabbbbbbbbcccccccc");
+}
+
 TEST(Many, haveATimeLimitEach)
 {
     const SimulatedDevice silent({samples("short-prefixes"), "--devices", "40", "--trouble", "silent"});
@@ -144,7 +160,10 @@ TEST(Progress, isShownAtATerminal)
     terminal.giveTo(process, true);
     process.start(QStringLiteral(REPORT_PROGRAM),
                   addressArguments(devices.addresses() + failing.addresses()) + QStringList{"--timeout", "60"});
-    EXPECT_TRUE(terminal.shownUntil("3 of 3 done, 1 failed").contains("\r\033[K0 of 3 done, 0 failed"));
+    const QByteArray end = "\r\033[K3 of 3 done, 1 failed";
+    const QByteArray shown = terminal.shownUntil(end);
+    EXPECT_TRUE(shown.contains("\r\033[K0 of 3 done, 0 failed")) << shown.toStdString();
+    EXPECT_TRUE(shown.contains(end)) << shown.toStdString();
     EXPECT_EQ(test::resultOf(process).exitCode, 1);
 }
 

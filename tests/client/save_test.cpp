@@ -1,6 +1,7 @@
 // Replies that are kept, to be read elsewhere.
 
 #include "camera-report/savedreplies.h"
+#include "client/fakeserver.h"
 #include "client/programs.h"
 #include "samples/samples.h"
 
@@ -96,6 +97,50 @@ TEST(Saved, repliesHoldNoPassword)
     }
     EXPECT_TRUE(test::contentsOf(kept.filePath("GetStreamUri.xml"))
                     .contains("rtsp://192.0.2.7/a?user=operator&amp;password=&amp;b=1"));
+}
+
+/// What stands in \a text behind \a start, up to \a end.
+QByteArray between(const QByteArray &text, const QByteArray &start, const QByteArray &end)
+{
+    const qsizetype begin = text.indexOf(start);
+    return begin < 0 ? QByteArray() : text.mid(begin + start.size(), text.indexOf(end, begin) - begin - start.size());
+}
+
+/// What proves in \a request who asks.
+QList<QByteArray> proofsIn(const QByteArray &request)
+{
+    return {between(request, "Authorization: ", "\r\n"), between(request, "#PasswordDigest\">", "<"),
+            between(request, "#Base64Binary\">", "<")};
+}
+
+TEST(Saved, repliesHoldNoProofThatTheyRepeat)
+{
+    const QTemporaryDir folder;
+    QFile password(folder.filePath("password"));
+    ASSERT_TRUE(password.open(QIODevice::WriteOnly));
+    password.write("simulated");
+    password.close();
+    test::FakeServer server([](const QByteArray &request) {
+        if (!request.contains("Authorization: "))
+            return test::httpReply("401 Unauthorized", "",
+                                   "WWW-Authenticate: Digest realm=\"r\", nonce=\"n\", qop=\"auth\"\r\n");
+        return test::httpReply("400 Bad Request",
+                               "<Envelope><Body><Fault><Code><Value>Sender</Value></Code><Reason><Text>"
+                               "What is "
+                                   + proofsIn(request).join(' ') + "?</Text></Reason></Fault></Body></Envelope>");
+    });
+    report({"--address", server.address(), "--timeout", "60", "--user", "operator", "--password-file",
+            password.fileName(), "--save", folder.filePath("kept")});
+    const QByteArray kept = test::contentsOf(folder.filePath("kept/GetDeviceInformation.xml"));
+    EXPECT_TRUE(kept.contains("What is ")) << kept.toStdString();
+    int proofs = 0;
+    for (const QByteArray &request : server.requests()) {
+        for (const QByteArray &proof : proofsIn(request)) {
+            proofs += proof.isEmpty() ? 0 : 1;
+            EXPECT_FALSE(!proof.isEmpty() && kept.contains(proof)) << kept.toStdString();
+        }
+    }
+    EXPECT_GE(proofs, 5);
 }
 
 TEST(Secrets, areTakenOut)

@@ -8,6 +8,7 @@
 
 namespace {
 
+using test::ReplyFolder;
 using test::report;
 using test::Result;
 using test::samples;
@@ -83,13 +84,29 @@ TEST_F(OverTls, theUserIsLetIn)
 
 TEST_F(OverTls, nothingGoesOutInTheClear)
 {
-    // The device names plain HTTP at its own port for all services.
+    // The device names plain HTTP for all services.
     const SimulatedDevice device({samples("short-prefixes"), "--tls", "--keep-addresses", "--record", recordFolder()});
     const Result result =
         report(device, QStringList{"--address", "{address}", "--timeout", "60", "--insecure"} + asOperator());
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     EXPECT_TRUE(result.output.contains("Media: http://10.1.2.3:8080/onvif/media\n"));
     EXPECT_EQ(recordedRequests(), 14);
+}
+
+TEST_F(OverTls, anotherCertificateOnTheWayIsRefused)
+{
+    const SimulatedDevice other({samples("short-prefixes"), "--tls", "--record", recordFolder()});
+    const ReplyFolder capabilities("GetCapabilities", "<Capabilities><Media><XAddr>" + other.address().toUtf8()
+                                                          + "/onvif/media</XAddr></Media></Capabilities>");
+    const SimulatedDevice device(
+        {samples("short-prefixes"), "--tls", "--answer", "GetCapabilities=" + capabilities.fileName()});
+    const Result result =
+        report(device, QStringList{"--address", "{address}", "--timeout", "60", "--insecure"} + asOperator());
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_TRUE(result.output.contains("\nProfiles\n  not answered: The certificate of " + other.address().mid(8)
+                                       + " is not trusted: "))
+        << result.output.toStdString();
+    EXPECT_EQ(recordedRequests(), 0);
 }
 
 TEST_F(OverTls, aSearchFindsTheDevice)

@@ -114,6 +114,8 @@ TEST(Usage, ofTheSimulatedDeviceIsWrongInOneSentence)
         {{folder, "--answer", "GetScopes"}, "GetScopes names no action and a file that can be read."},
         {{folder, "--trouble", "bad-luck"}, "There is no trouble bad-luck; there are: silent, "},
         {{folder, "--auth", "smile"}, "--auth wants token, http or basic."},
+        {{folder, "--nonce-uses", "0"}, "--nonce-uses wants a number from 1 to 1000000."},
+        {{folder, "--nonce-life", "-1"}, "--nonce-life wants a number of seconds from 0 to 1000000."},
         {{folder, "--listen", "0.0.0.0"}, "--listen wants an IPv4 address of this machine."},
         {{folder, "--listen", "192.0.2.77"}, "No device can listen at 192.0.2.77:0: "},
         {{folder, "--port", "65536"}, "--port and --probe-port want the number of a port."},

@@ -467,4 +467,22 @@ TEST(OnvifProfileVector, readsAReplyWithAnUndeclaredPrefixInItsHeader)
     expectConfigurations(list[0], "");
 }
 
+TEST(OnvifProfileVector, isTheSameUnderEachPolicyOfQtForInvalidData)
+{
+    const auto policy = QDomImplementation::invalidDataPolicy();
+    for (const auto other : {QDomImplementation::AcceptInvalidChars, QDomImplementation::DropInvalidChars,
+                             QDomImplementation::ReturnNullNode}) {
+        QDomImplementation::setInvalidDataPolicy(other);
+        const OnvifProfileVector profiles = read("<:Profiles token='p\x01'><:Name>n\x02</:Name>"
+                                                 "<:VideoEncoderConfiguration/></:Profiles>");
+        QDomImplementation::setInvalidDataPolicy(policy);
+
+        ASSERT_EQ(profiles.size(), 1) << other;
+        EXPECT_FALSE(profiles[0].isNull()) << other;
+        EXPECT_EQ(profiles[0].token, u"p\u0001") << other;
+        EXPECT_EQ(profiles[0].name, u"n\u0002") << other;
+        EXPECT_FALSE(profiles[0].videoEncoder.isNull()) << other;
+    }
+}
+
 } // namespace
