@@ -20,7 +20,7 @@ QByteArray Nonces::issue()
 {
     if (m_inOrder.size() == mostIssued)
         m_issued.remove(m_inOrder.takeFirst());
-    const QByteArray nonce = QUuid::createUuid().toByteArray(QUuid::Id128);
+    QByteArray nonce = QUuid::createUuid().toByteArray(QUuid::Id128);
     m_issued.insert(nonce, {QDeadlineTimer(m_life), {}});
     m_inOrder.append(nonce);
     return nonce;
