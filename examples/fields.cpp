@@ -18,11 +18,16 @@ static QJsonValue jsonOf(const Value &value)
         QJsonObject object;
         vorn::visitFields([&](QLatin1StringView name, const auto &field) { object[name] = jsonOf(field); }, value);
         return object;
-    } else if constexpr (vorn::isList<Value> || vorn::isMap<Value>) {
+    } else if constexpr (vorn::isList<Value>) {
         QJsonArray array;
         for (const auto &entry : value)
             array.append(jsonOf(entry));
         return array;
+    } else if constexpr (vorn::isMap<Value>) {
+        QJsonObject object; // a key may have several values
+        for (const QString &key : value.uniqueKeys())
+            object[key] = jsonOf(value.values(key));
+        return object;
     } else if constexpr (vorn::hasEnumerators<Value>) {
         return QString(vorn::enumeratorName(value));
     } else if constexpr (std::is_same_v<Value, unsigned int>) {
@@ -55,6 +60,7 @@ int main(int argc, char **argv)
     add("encoders",
         vorn::OnvifVideoEncoderConfigurationVector(bytes, vorn::paths::GetVideoEncoderConfigurationsResponse));
     add("profiles", vorn::OnvifProfileVector(bytes, vorn::paths::GetProfilesResponse));
+    add("scopes", vorn::OnvifScopeMap(bytes));
     out << QJsonDocument(json).toJson();
     return 0;
 }

@@ -1,3 +1,4 @@
+#include "fields/types.h"
 #include "samples/samples.h"
 
 #include <vorn/onvif/debug.h>
@@ -55,6 +56,17 @@ TEST(Debug, printsTheRecordsWithinWithoutTheirNames)
         R"(fromDHCP: (address: "", prefixLength: 0), dhcp: false)), )"
         R"(ipv6: (enabled: false, config: (acceptRouterAdvert: false, dhcp: Stateful, manual: [], linkLocal: [], )"
         R"(fromDHCP: [], fromRA: []))) 7 )");
+}
+
+TEST(Debug, printsEachRecordByItsName)
+{
+    int records = 0;
+    test::forEachRecord([&records](auto type) {
+        using Record = typename decltype(type)::type;
+        EXPECT_TRUE(printed(Record()).startsWith(QString(recordName<Record>) + "(")) << recordName<Record>.data();
+        ++records;
+    });
+    EXPECT_EQ(records, 43);
 }
 
 TEST(Debug, printsAStructOfARecord)

@@ -7,6 +7,8 @@
 #include <QtCore/QFileInfo>
 #include <gtest/gtest.h>
 
+#include <iterator>
+
 using namespace vorn;
 
 namespace {
@@ -60,6 +62,12 @@ TEST(Paths, leadToTheElementThatTheyAreNamedAfter)
         const QByteArray reply = QByteArray("<s:Envelope><s:Body><x:") + element + "/></s:Body></s:Envelope>";
         EXPECT_EQ(XmlResponse(reply, path).view(u"").name(), element);
     }
+}
+
+TEST(Paths, areAllInTheTableAbove)
+{
+    const QString header = test::contentsOf(INCLUDE_FOLDER "/vorn/onvif/paths.h");
+    EXPECT_EQ(header.count("inline constexpr"), static_cast<qsizetype>(std::size(responses)));
 }
 
 TEST(Paths, areThereForEachReplyOfTheSamples)

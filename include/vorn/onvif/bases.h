@@ -28,7 +28,7 @@ struct VORNSDK_ONVIF_EXPORT OnvifDataStructure
     /// that do not say otherwise.
     virtual QString toString() const;
 
-    /// True if the record holds nothing: it was default-constructed, or its element was missing in the reply.
+    /// True if the record was default-constructed, or its element was missing in the reply. Its fields play no part.
     bool isNull() const;
 
 protected:
