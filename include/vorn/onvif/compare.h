@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <string_view>
 #include <type_traits>
 
@@ -40,7 +41,8 @@ bool isSame(const Value &one, const Value &other)
         return one.keys() == other.keys()
                && std::equal(one.begin(), one.end(), other.begin(), other.end(), isSame<Mapped>);
     } else if constexpr (std::is_floating_point_v<Value>) {
-        return one == other || (std::isnan(one) && std::isnan(other));
+        // Not ==, of which -Wfloat-equal would warn in the programs of users.
+        return std::equal_to<>()(one, other) || (std::isnan(one) && std::isnan(other));
     } else if constexpr (std::is_same_v<Value, const char *>) {
         return std::string_view(one ? one : "") == std::string_view(other ? other : "");
     } else {
