@@ -73,7 +73,7 @@ refuse() {
     echo "  $name: refused with a sentence"
 }
 
-strict=("-DCMAKE_CXX_FLAGS=$warnings $definitions" "-DPUBLIC_HEADERS=$header_list")
+strict=("-DCMAKE_CXX_FLAGS=$warnings $definitions")
 
 for kind in shared static; do
     echo "Installing the $kind libraries"
@@ -86,9 +86,15 @@ for kind in shared static; do
     ! grep -rlF -e "$source" -e "$work" "$work/moved-$kind" || { echo "package test: the above name a folder of the build" >&2; exit 1; }
     quietly "$work/moved-$kind/bin/onvif-inspect" "$source/samples/short-prefixes/GetDeviceInformation.xml"
 
+    options=("${strict[@]}")
+    if [ $kind = shared ]; then
+        options+=("-DPUBLIC_HEADERS=$header_list")
+    else
+        diff -r "$work/moved-shared/include" "$work/moved-static/include" # so that each header is tried by the above
+    fi
     for standard in 17 20 23; do
         for compiler in g++ clang++; do
-            consume "$kind, find_package, C++$standard, $compiler" -DCMAKE_PREFIX_PATH="$work/moved-$kind" "${strict[@]}" \
+            consume "$kind, find_package, C++$standard, $compiler" -DCMAKE_PREFIX_PATH="$work/moved-$kind" "${options[@]}" \
                 -DCMAKE_CXX_STANDARD=$standard -DCMAKE_CXX_COMPILER=$compiler
         done
     done
@@ -142,6 +148,7 @@ for package in "${packages[@]}"; do
     echo "  $(basename "$package")"
 done
 libraries=$(dirname "$(find "$work/root" -name libvornsdk-onvif.so)")
+diff -r "$work/moved-shared/include" "$work/root/usr/include"
 consume "Debian packages" -DCMAKE_PREFIX_PATH="$work/root/usr" "${strict[@]}"
 quietly env LD_LIBRARY_PATH="$libraries" "$work/root/usr/bin/onvif-inspect" \
     "$source/samples/short-prefixes/GetDeviceInformation.xml"
