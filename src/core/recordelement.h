@@ -7,7 +7,6 @@
 #include <QtCore/QAnyStringView>
 #include <QtCore/QByteArrayView>
 #include <QtCore/QString>
-#include <QtCore/QStringBuilder>
 
 #include <type_traits>
 #include <utility>
@@ -42,12 +41,7 @@ public:
 
     QString attribute(const QString &name) const { return m_response->getAttribute(name, m_path); }
 
-    /// \a path may still be one that is put together.
-    template <typename Path>
-    QueriedElement at(const Path &path) const
-    {
-        return {*m_response, m_path % path};
-    }
+    QueriedElement at(const QString &path) const { return {*m_response, m_path + path}; }
 
 private:
     XmlResponse *m_response = nullptr;
@@ -102,11 +96,7 @@ public:
     QString attribute(const QString &name) const;
 
     /// The element at \a path below one that elementAt() gave.
-    template <typename Path>
-    RecordElement at(const Path &path) const
-    {
-        return m_view.at(path);
-    }
+    RecordElement at(const QString &path) const { return m_view.at(path); }
 
     /// Calls \a visit with the local name of each child, of a type that can be compared with a QLatin1String, and the
     /// child, in document order.

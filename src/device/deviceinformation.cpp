@@ -11,13 +11,13 @@ OnvifDeviceInformation::OnvifDeviceInformation() = default;
 OnvifDeviceInformation::OnvifDeviceInformation(const QByteArray &bytes)
     : OnvifResponseStructure(bytes, u"/Envelope/Body/GetDeviceInformationResponse"_s)
 {
-    readQueries(elementAt(response, {}), {
-                                             query("Manufacturer", manufacturer),
-                                             query("Model", model),
-                                             query("FirmwareVersion", firmwareVersion),
-                                             query("SerialNumber", serialNumber),
-                                             query("HardwareId", hardwareId),
-                                         });
+    readQueries(response, {
+                              query(u"/Manufacturer", manufacturer),
+                              query(u"/Model", model),
+                              query(u"/FirmwareVersion", firmwareVersion),
+                              query(u"/SerialNumber", serialNumber),
+                              query(u"/HardwareId", hardwareId),
+                          });
 }
 
 OnvifDeviceInformation::OnvifDeviceInformation(const OnvifDeviceInformation &other) = default;

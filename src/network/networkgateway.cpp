@@ -13,7 +13,7 @@ OnvifNetworkGateway::OnvifNetworkGateway() = default;
 OnvifNetworkGateway::OnvifNetworkGateway(const QByteArray &bytes)
 {
     OnvifResponseStructure reply(bytes, u"/Envelope/Body/GetNetworkDefaultGatewayResponse/NetworkGateway"_s);
-    readQueries(elementAt(reply.response, {}), {query("IPv4Address", ipv4Address), query("IPv6Address", ipv6Address)});
+    readQueries(reply.response, {query(u"/IPv4Address", ipv4Address), query(u"/IPv6Address", ipv6Address)});
 }
 
 OnvifNetworkGateway::OnvifNetworkGateway(const OnvifNetworkGateway &other) = default;

@@ -281,7 +281,7 @@ TEST(ReadQueries, readsTheFirstElementAtEachPath)
     XmlResponse response("<r><p><A>1</A><A>2</A></p><p><A>3</A><B>x</B></p></r>", "/r");
     int a = 0;
     QString b;
-    readQueries(elementAt(response, QStringLiteral("/p")), {query("A", a), query("B", b)});
+    readQueries(response, {query(u"/p/A", a), query(u"/p/B", b)});
     EXPECT_EQ(a, 1);
     EXPECT_TRUE(b.isNull());
 }
@@ -290,8 +290,62 @@ TEST(ReadQueries, leavesFieldsWhereTheParentIsMissing)
 {
     XmlResponse response("<r/>", "/r");
     QString text = "before";
-    readQueries(elementAt(response, QStringLiteral("/p")), {query("A", text)});
+    readQueries(response, {query(u"/p/A", text)});
     EXPECT_EQ(text, "before");
+}
+
+TEST(ReadQueries, tellsNamesFromTheirBeginnings)
+{
+    XmlResponse response("<r><AB>1</AB><A>2</A><C><D>3</D></C><CE>4</CE></r>", "/r");
+    int a = 0;
+    int ab = 0;
+    int ce = 0;
+    int d = 0;
+    readQueries(response, {query(u"/A", a), query(u"/AB", ab), query(u"/CE", ce), query(u"/C/D", d)});
+    EXPECT_EQ(a, 2);
+    EXPECT_EQ(ab, 1);
+    EXPECT_EQ(ce, 4);
+    EXPECT_EQ(d, 3);
+}
+
+TEST(ReadQueries, walksDownFromEachElementOnTheWay)
+{
+    XmlResponse response("<r><p><C>3</C><q><B>2</B></q><A>1</A></p><D>4</D></r>", "/r");
+    int a = 0;
+    int b = 0;
+    int c = 0;
+    int d = 0;
+    readQueries(response, {query(u"/p/A", a), query(u"/p/q/B", b), query(u"/p/C", c), query(u"/D", d)});
+    EXPECT_EQ(a, 1);
+    EXPECT_EQ(b, 2);
+    EXPECT_EQ(c, 3);
+    EXPECT_EQ(d, 4);
+}
+
+TEST(ReadQueries, theLastOfManyQueriesIsOneOfThem)
+{
+    XmlResponse response("<r><Z>1</Z><Z>2</Z><A>3</A><A>4</A></r>", "/r");
+    int first = 0;
+    int last = 0;
+    int none = 0;
+    const std::initializer_list<vorn::Query> queries = {
+        query(u"/A", first), query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/-", none), query(u"/-", none),
+        query(u"/-", none),  query(u"/-", none), query(u"/-", none), query(u"/Z", last)};
+    ASSERT_EQ(queries.size(), 64U);
+    readQueries(response, queries);
+    EXPECT_EQ(last, 1);
+    EXPECT_EQ(first, 3);
 }
 
 // Unlike those of a walk.
@@ -302,7 +356,7 @@ TEST(ReadQueries, booleansAreTrueForBothWordsOfXmlSchema)
     bool b = false;
     bool c = true;
     bool d = true;
-    readQueries(elementAt(response, QString()), {query("A", a), query("B", b), query("C", c), query("D", d)});
+    readQueries(response, {query(u"/A", a), query(u"/B", b), query(u"/C", c), query(u"/D", d)});
     EXPECT_TRUE(a);
     EXPECT_TRUE(b);
     EXPECT_FALSE(c);
