@@ -108,7 +108,7 @@ QUrl CameraWalk::urlOf(Service service)
         xAddr = capabilities->device.io.xAddr;
     if (xAddr.isEmpty())
         return m_entry; // which has answered
-    const QUrl url = urlOnSameHost(m_entry, xAddr);
+    QUrl url = urlOnSameHost(m_entry, xAddr);
     if (url.host() != QUrl(xAddr.trimmed()).host() && !m_notAsked.contains(xAddr)) {
         m_notAsked.append(xAddr);
         m_progress(QString("%1 is no address of the host that was asked, which is asked instead").arg(xAddr));

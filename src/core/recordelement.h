@@ -78,8 +78,8 @@ public:
     {
     }
 
-    RecordElement(View view)
-        : m_view(std::move(view))
+    RecordElement(const View &view)
+        : m_view(view)
     {
     }
 

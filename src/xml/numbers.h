@@ -60,21 +60,11 @@ inline unsigned int toUInt(QByteArrayView utf8)
     return toInteger<unsigned int>(utf8.begin(), utf8.end());
 }
 
-/// The value of a number that is written as [sign] digits [. digits] [e [sign] digits], where the digits before or
-/// behind the point may be missing, or as "inf", "nan" or one of these with a sign that it may have. Letters may be of
-/// any case, U+2212 is a minus too, and white space of any kind may stand around the whole. Beyond the range of double
-/// it is infinite.
-inline double toDouble(QStringView text)
+/// Whether the characters from \a begin to \a end, in lower case, are [sign] digits [. digits] [e [sign] digits], where
+/// the digits before or behind the point may be missing, or "inf" with or without a sign, or "nan".
+inline bool isDecimal(const char *begin, const char *end)
 {
-    QVarLengthArray<char, 64> number;
-    for (const QChar character : text.trimmed()) {
-        const char16_t c = character == u'\u2212' ? u'-' : character.unicode();
-        const bool isUpper = c >= u'A' && c <= u'Z';
-        number.append(c < 0x80 ? static_cast<char>(isUpper ? c - u'A' + u'a' : c) : '?');
-    }
-
-    const char *next = number.cbegin();
-    const char *const end = number.cend();
+    const char *next = begin;
     const auto skipSign = [&] { next += next != end && (*next == '+' || *next == '-') ? 1 : 0; };
     const auto skipDigits = [&] {
         const char *const first = next;
@@ -84,21 +74,33 @@ inline double toDouble(QStringView text)
     };
     skipSign();
     const QByteArrayView name(next, end);
-    if (name != "inf" && (name != "nan" || next != number.cbegin())) {
-        bool hasDigits = skipDigits();
-        if (next != end && *next == '.') {
-            ++next;
-            hasDigits = skipDigits() || hasDigits;
-        }
-        if (next != end && *next == 'e') {
-            ++next;
-            skipSign();
-            hasDigits = skipDigits() && hasDigits;
-        }
-        if (!hasDigits || next != end)
-            return 0;
+    if (name == "inf" || (name == "nan" && next == begin))
+        return true;
+    bool hasDigits = skipDigits();
+    if (next != end && *next == '.') {
+        ++next;
+        hasDigits = skipDigits() || hasDigits;
     }
+    if (next != end && *next == 'e') {
+        ++next;
+        skipSign();
+        hasDigits = skipDigits() && hasDigits;
+    }
+    return hasDigits && next == end;
+}
 
+/// The value of \a text if it isDecimal(), else 0. Letters may be of any case, U+2212 is a minus too, and white space
+/// of any kind may stand around the whole. Beyond the range of double it is infinite.
+inline double toDouble(QStringView text)
+{
+    QVarLengthArray<char, 64> number;
+    for (const QChar character : text.trimmed()) {
+        const char16_t c = character == u'\u2212' ? u'-' : character.unicode();
+        const bool isUpper = c >= u'A' && c <= u'Z';
+        number.append(c < 0x80 ? static_cast<char>(isUpper ? c - u'A' + u'a' : c) : '?');
+    }
+    if (!isDecimal(number.cbegin(), number.cend()))
+        return 0;
     bool isInRange = false;
     const double value = QByteArrayView(number).toDouble(&isInRange);
     if (isInRange)
