@@ -39,13 +39,13 @@ bool isClean(const QByteArray &reply, const QList<QByteArray> &secrets)
 
 QByteArray withoutSecrets(const QByteArray &reply, const QList<QByteArray> &secrets)
 {
-    static const QRegularExpression token("<((?:[\\w.-]+:)?UsernameToken)\\b.*?</\\1\\s*>",
+    static const QRegularExpression token(R"(<((?:[\w.-]+:)?UsernameToken)\b.*?</\1\s*>)",
                                           QRegularExpression::DotMatchesEverythingOption);
-    static const QRegularExpression escapedToken("&lt;((?:[\\w.-]+:)?UsernameToken)\\b.*?&lt;/\\1\\s*&gt;",
+    static const QRegularExpression escapedToken(R"(&lt;((?:[\w.-]+:)?UsernameToken)\b.*?&lt;/\1\s*&gt;)",
                                                  QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression element("(<(?:[\\w.-]+:)?(?:Password|Nonce)\\b[^>]*>)[^<]*");
-    static const QRegularExpression userInfo("(\\b[A-Za-z][A-Za-z0-9+.-]*://)[^/@\\s<>\"']*@");
-    static const QRegularExpression query("\\b((?:password|passwd|passw|pass|pwd|psw)=)[^&\\s<>\"']*",
+    static const QRegularExpression userInfo(R"((\b[A-Za-z][A-Za-z0-9+.-]*://)[^/@\s<>"']*@)");
+    static const QRegularExpression query(R"(\b((?:password|passwd|passw|pass|pwd|psw)=)[^&\s<>"']*)",
                                           QRegularExpression::CaseInsensitiveOption);
     QByteArray cleaned = reply;
     for (const QByteArray &secret : secrets) {
